@@ -1,0 +1,33 @@
+# Entry points for people and CI.  `make demo` builds the release tool and
+# translates a bundled example; `make test` builds under the sanitizers and
+# runs the whole suite.
+
+JOBS ?= $(shell nproc 2>/dev/null || echo 2)
+RELEASE_DIR := build/release
+TEST_DIR := build/test
+DEMO_SCENE ?= examples/spiral.vlm
+
+.PHONY: all deps release demo test bench clean
+
+all: release
+
+deps:
+	@scripts/install-deps.sh
+
+release: deps
+	cmake -S . -B $(RELEASE_DIR) -DCMAKE_BUILD_TYPE=Release -DLUMERIC_TESTS=OFF -DLUMERIC_BENCH=ON >/dev/null
+	cmake --build $(RELEASE_DIR) -j $(JOBS)
+
+demo: release
+	$(RELEASE_DIR)/lumeric -o - $(DEMO_SCENE)
+
+test: deps
+	cmake -S . -B $(TEST_DIR) -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g" -DLUMERIC_SANITIZE=ON >/dev/null
+	cmake --build $(TEST_DIR) -j $(JOBS)
+	cd $(TEST_DIR) && ctest --output-on-failure -j $(JOBS)
+
+bench: release
+	bench/run.sh $(RELEASE_DIR)
+
+clean:
+	rm -rf build

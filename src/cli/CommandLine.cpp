@@ -1,0 +1,132 @@
+#include "cli/CommandLine.h"
+
+#include <cctype>
+#include <cstring>
+
+namespace lumeric {
+
+const char kUsageText[] =
+    "Usage: lumeric [options] INPUT\n"
+    "\n"
+    "Translates a scene written in extended VRML 1.0 (expressions, SET, APPEND,\n"
+    "DECLARE, PRINT, PRECISION, OUTPUT_TO, INCLUDE, USE, LOOP, SELECT, PARAMETERS,\n"
+    "Ball, Connect, Wall) into plain VRML 1.0 that any VRML 1.0 reader loads.\n"
+    "\n"
+    "By default the result goes to output.wrl in the current directory, or to the\n"
+    "file the scene's OUTPUT_TO statement names.\n"
+    "\n"
+    "Options:\n"
+    "  -o FILE        write the result to FILE instead (\"-\" for standard output);\n"
+    "                 this takes precedence over OUTPUT_TO\n"
+    "  --check        only read and expand the scene and report its errors; no\n"
+    "                 result is written\n"
+    "  --type TYPE    with --check: the file type; \"vlm\" (any case) enables the\n"
+    "                 extended language, anything else reads plain VRML 1.0.\n"
+    "                 Default: taken from INPUT's extension (.vlm is extended)\n"
+    "  -W unknown     warn about nodes of unknown class that declare their fields\n"
+    "  -W duplicate   warn about DEF names that are defined twice\n"
+    "  -d DIR         when INPUT cannot be opened, try DIR followed by INPUT\n"
+    "  --help         show this text\n"
+    "  --version      show the version\n"
+    "\n"
+    "Messages go to standard error, one per line: errors as \"error: TEXT\",\n"
+    "warnings and PRINT output as their text alone.\n"
+    "\n"
+    "Exit status: 0 when no error was reported, 1 when at least one was, 2 for a\n"
+    "usage error.\n"
+    "\n"
+    "Example:\n"
+    "  lumeric -o spiral.wrl examples/spiral.vlm\n"
+    "  lumeric --check examples/spiral.vlm\n";
+
+std::string fileTypeOf(const std::string& input) {
+  size_t slash = input.find_last_of('/');
+  size_t dot = input.find_last_of('.');
+  if (dot == std::string::npos || (slash != std::string::npos && dot < slash)) return "";
+  std::string extension = input.substr(dot + 1);
+  std::string lower;
+  for (char c : extension) lower += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return lower == "vlm" ? "vlm" : extension;
+}
+
+namespace {
+
+bool takeValue(int argc, char** argv, int& i, std::string& value, std::string& error) {
+  if (i + 1 >= argc) {
+    error = std::string("option ") + argv[i] + " needs a value";
+    return false;
+  }
+  value = argv[++i];
+  return true;
+}
+
+}  // namespace
+
+bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& error) {
+  bool typeSet = false;
+  bool noMoreOptions = false;
+  for (int i = 1; i < argc; ++i) {
+    std::string arg = argv[i];
+    if (!noMoreOptions && arg.size() > 1 && arg[0] == '-') {
+      if (arg == "--") {
+        noMoreOptions = true;
+      } else if (arg == "--help" || arg == "-h") {
+        line.action = CommandLine::kHelp;
+        return true;
+      } else if (arg == "--version") {
+        line.action = CommandLine::kVersion;
+        return true;
+      } else if (arg == "--check") {
+        line.action = CommandLine::kCheck;
+      } else if (arg == "-o") {
+        if (!takeValue(argc, argv, i, line.output, error)) return false;
+        line.outputSet = true;
+      } else if (arg == "--type") {
+        if (!takeValue(argc, argv, i, line.fileType, error)) return false;
+        typeSet = true;
+      } else if (arg == "-d") {
+        if (!takeValue(argc, argv, i, line.directory, error)) return false;
+      } else if (arg == "-W") {
+        std::string which;
+        if (!takeValue(argc, argv, i, which, error)) return false;
+        if (which == "unknown") {
+          line.warnings |= 2;
+        } else if (which == "duplicate") {
+          line.warnings |= 4;
+        } else {
+          error = "unknown warning \"" + which + "\" (use unknown or duplicate)";
+          return false;
+        }
+      } else {
+        error = "unknown option " + arg;
+        return false;
+      }
+      continue;
+    }
+    if (!line.input.empty()) {
+      error = "only one INPUT may be given";
+      return false;
+    }
+    line.input = arg;
+    if (line.input.empty()) {
+      error = "INPUT must not be empty";
+      return false;
+    }
+  }
+  if (line.input.empty()) {
+    error = "no INPUT given";
+    return false;
+  }
+  if (typeSet && line.action != CommandLine::kCheck) {
+    error = "--type is used only with --check";
+    return false;
+  }
+  if (line.outputSet && line.action == CommandLine::kCheck) {
+    error = "-o cannot be combined with --check";
+    return false;
+  }
+  if (!typeSet) line.fileType = fileTypeOf(line.input);
+  return true;
+}
+
+}  // namespace lumeric

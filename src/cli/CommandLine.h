@@ -1,0 +1,32 @@
+// The options of the lumeric command.
+#ifndef LUMERIC_CLI_COMMANDLINE_H
+#define LUMERIC_CLI_COMMANDLINE_H
+
+#include <string>
+
+namespace lumeric {
+
+struct CommandLine {
+  enum Action { kTranslate, kCheck, kHelp, kVersion };
+
+  Action action = kTranslate;
+  std::string input;
+  std::string output;     // -o; empty: the library's own choice
+  bool outputSet = false;
+  std::string fileType;   // --type; empty: from the input's extension
+  std::string directory;  // -d
+  unsigned long warnings = 0;
+};
+
+// Parses argv.  On a usage error returns false with `error` set.
+bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& error);
+
+// The file type CheckSyntax gets for `input`: "vlm" for a ".vlm" extension
+// in any case, else the extension itself (empty when there is none).
+std::string fileTypeOf(const std::string& input);
+
+extern const char kUsageText[];
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_CLI_COMMANDLINE_H

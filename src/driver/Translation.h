@@ -1,0 +1,36 @@
+// One run of the translator: open the input, read the scene, expand and
+// evaluate it, write (or only check) it, and free everything the run made.
+// ParseVRMLLumeric and CheckSyntax are thin wrappers around these.
+#ifndef LUMERIC_DRIVER_TRANSLATION_H
+#define LUMERIC_DRIVER_TRANSLATION_H
+
+#include <cstdio>
+
+#include "lumeric/lumeric.h"
+
+namespace lumeric {
+
+// Where the result of a translation goes when the caller decides it rather
+// than the scene (the command line's -o).  With `stream` set the result is
+// written there and the stream is flushed, not closed; with `path` set that
+// file is opened instead of "output.wrl".  Either way OUTPUT_TO statements
+// open nothing.
+struct OutputOverride {
+  FILE* stream = nullptr;
+  const char* path = nullptr;
+};
+
+int translateScene(const char* inputPath, CReportErrorView* view, const char* directory, char* outputNameOut,
+                   const OutputOverride* output);
+int checkScene(const char* inputPath, CReportErrorView* view, const char* directory, const char* fileType);
+
+// Whether OUTPUT_TO may open a file in this run.
+bool outputMayBeChosenByScene();
+
+// The end-of-run clean-up: the name registry, the atom pool, the class field
+// tables and the terms.
+void endOfRunCleanUp();
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_DRIVER_TRANSLATION_H

@@ -1,0 +1,4 @@
+set(LUMERIC_EXPR_SOURCES
+  src/expr/Term.cpp
+  src/expr/TermArena.cpp
+)

@@ -1,0 +1,25 @@
+// Number texts as the translator writes them: "%g" (six significant digits)
+// and "%d", produced without going through printf.
+#ifndef LUMERIC_READER_NUMBERTEXT_H
+#define LUMERIC_READER_NUMBERTEXT_H
+
+#include <cstdio>
+
+namespace lumeric {
+
+// Room for any formatNumber / formatInteger text with its terminator.
+constexpr int kNumberTextSize = 32;
+
+// Writes `value` as printf's "%g" would into `buffer` (kNumberTextSize
+// bytes); returns the length.
+int formatNumber(char* buffer, double value);
+// Writes `value` as printf's "%d" would; returns the length.
+int formatInteger(char* buffer, long value);
+
+// Formatted output of one number straight to a stream.
+void writeNumber(FILE* out, double value);
+void writeInteger(FILE* out, long value);
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_READER_NUMBERTEXT_H

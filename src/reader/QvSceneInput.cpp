@@ -1,0 +1,416 @@
+#include "reader/QvSceneInput.h"
+
+#include <cctype>
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <cstring>
+
+#include "driver/QvContext.h"
+#include "reader/FieldExpression.h"
+#include "reader/QvNode.h"
+
+namespace lumeric {
+
+namespace {
+
+constexpr char kHeaderText[] = "#VRML V1.0 ascii";
+constexpr size_t kHeaderKeep = 255;
+constexpr size_t kBufferSize = 64 * 1024;
+// Integer digit runs longer than this are consumed but not kept; no value
+// of the integer kinds needs more digits, and the value saturates anyway.
+constexpr size_t kMaxIntegerDigits = 40;
+
+bool isAsciiLower(char c) { return c >= 'a' && c <= 'z'; }
+bool isAsciiUpper(char c) { return c >= 'A' && c <= 'Z'; }
+bool isAsciiDigit(char c) { return c >= '0' && c <= '9'; }
+bool isHexDigit(char c) { return std::isxdigit(static_cast<unsigned char>(c)) != 0; }
+
+}  // namespace
+
+bool isSceneSpace(int c) {
+  return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\v' || c == '\f';
+}
+
+bool isNameChar(int c) {
+  unsigned char u = static_cast<unsigned char>(c);
+  if (u > 127) return false;
+  if (std::isalnum(u)) return true;
+  if (!std::isprint(u) || u == ' ') return false;
+  return std::strchr("+'\"\\{}[],.#&", u) == nullptr;
+}
+
+bool isNameStart(int c) { return isNameChar(c) && !isAsciiDigit(static_cast<char>(c)); }
+
+struct QvSceneInput::State {
+  FILE* file = nullptr;
+  int line = 1;
+  bool headerRead = false;
+  bool usable = true;
+  std::string putBack;
+  int putBackIndex = -1;
+
+  // Our own buffering of `file`: one character can always be given back,
+  // since the last character read sits just before `position`.
+  std::unique_ptr<char[]> buffer{new char[kBufferSize]};
+  size_t position = 0;
+  size_t end = 0;
+  bool atEnd = false;
+  bool lastReadFailed = false;
+};
+
+QvSceneInput::QvSceneInput() : defTable_(QvNameTable::kDefaultBuckets) { setFile(stdin); }
+
+QvSceneInput::~QvSceneInput() = default;
+
+void QvSceneInput::setFile(FILE* file) {
+  state_ = std::make_unique<State>();
+  state_->file = file;
+}
+
+std::unique_ptr<QvSceneInput::State> QvSceneInput::saveState() {
+  std::unique_ptr<State> saved = std::move(state_);
+  state_ = std::make_unique<State>();
+  return saved;
+}
+
+void QvSceneInput::restoreState(std::unique_ptr<State> state) {
+  if (state != nullptr) state_ = std::move(state);
+}
+
+bool QvSceneInput::readRaw(char& c) {
+  State& s = *state_;
+  if (s.position == s.end) {
+    size_t got = (s.file == nullptr || s.atEnd) ? 0 : std::fread(s.buffer.get(), 1, kBufferSize, s.file);
+    if (got == 0) {
+      s.atEnd = true;
+      c = kEndOfFile;
+      return false;
+    }
+    s.position = 0;
+    s.end = got;
+  }
+  c = s.buffer[s.position++];
+  return true;
+}
+
+void QvSceneInput::unreadRaw() {
+  if (state_->position > 0) --state_->position;
+}
+
+bool QvSceneInput::checkHeader() {
+  State& s = *state_;
+  s.headerRead = true;
+  char c;
+  bool ok = readRaw(c);
+  if (ok && c == '#') {
+    std::string kept(1, '#');
+    while (readRaw(c)) {
+      if (c == '\n') {
+        ++s.line;
+        break;
+      }
+      if (kept.size() < kHeaderKeep) kept += c;
+    }
+    if (kept.compare(0, sizeof kHeaderText - 1, kHeaderText) == 0) return true;
+  } else if (ok) {
+    unreadRaw();
+  }
+  theContext.readError(this, "File does not have a valid header string");
+  s.usable = false;
+  return false;
+}
+
+bool QvSceneInput::getChar(char& c) {
+  State& s = *state_;
+  if (s.putBackIndex >= 0) {
+    if (s.putBackIndex < static_cast<int>(s.putBack.size())) {
+      c = s.putBack[static_cast<size_t>(s.putBackIndex++)];
+      s.lastReadFailed = false;
+      return true;
+    }
+    s.putBackIndex = -1;
+  }
+  if (!s.headerRead && !checkHeader()) {
+    c = kEndOfFile;
+    s.lastReadFailed = true;
+    return false;
+  }
+  bool ok = readRaw(c);
+  s.lastReadFailed = !ok;
+  return ok;
+}
+
+void QvSceneInput::putBackChar(char) {
+  State& s = *state_;
+  if (s.putBackIndex > 0) {
+    --s.putBackIndex;
+    return;
+  }
+  if (s.lastReadFailed) return;  // the end of the file is never given back
+  unreadRaw();
+}
+
+void QvSceneInput::putBackWord(const char* text) {
+  state_->putBack = text != nullptr ? text : "";
+  state_->putBackIndex = 0;
+}
+
+bool QvSceneInput::eof() const { return state_->atEnd; }
+
+int QvSceneInput::getLine() const { return state_->line; }
+
+bool QvSceneInput::isUsable() const { return state_->usable; }
+
+bool QvSceneInput::skipWhiteSpace() {
+  State& s = *state_;
+  if (!s.headerRead && s.putBackIndex < 0 && !checkHeader()) return false;
+  bool headerChecked = s.headerRead;
+  char c;
+  while (getChar(c)) {
+    if (c == '\n') {
+      ++s.line;
+    } else if (c == '#') {
+      bool closed = false;
+      while (getChar(c)) {
+        if (c == '\n') {
+          ++s.line;
+          closed = true;
+          break;
+        }
+      }
+      if (!closed) {
+        theContext.readError(this, "EOF reached before end of comment");
+        return true;
+      }
+    } else if (!isSceneSpace(c)) {
+      putBackChar(c);
+      return true;
+    }
+  }
+  // Only a header check made within this call can fail it; the end of the
+  // file is a success.
+  return headerChecked || s.usable;
+}
+
+bool QvSceneInput::readChar(char& c) {
+  if (!skipWhiteSpace()) {
+    c = kEndOfFile;
+    return false;
+  }
+  return getChar(c);
+}
+
+bool QvSceneInput::peekChar(char expected) {
+  char c;
+  if (!readChar(c)) return false;
+  putBackChar(c);
+  return c == expected;
+}
+
+bool QvSceneInput::readName(QvAtom& name, int kind) {
+  name = QvAtom();
+  if (!skipWhiteSpace()) return false;
+  char c;
+  if (!getChar(c)) return true;
+  bool qualifies = kind == kLowerName ? isAsciiLower(c) : kind == kDefName ? isNameStart(c) : isAsciiUpper(c);
+  if (!qualifies) {
+    putBackChar(c);
+    return true;
+  }
+  char text[kMaxNameLength + 1];
+  size_t length = 0;
+  text[length++] = c;
+  while (getChar(c)) {
+    if (!isNameChar(c)) {
+      putBackChar(c);
+      break;
+    }
+    if (length < kMaxNameLength) text[length++] = c;
+  }
+  name = QvAtom(text, length);
+  return true;
+}
+
+bool QvSceneInput::readString(std::string& text) {
+  text.clear();
+  if (!skipWhiteSpace()) return false;
+  char c;
+  if (!getChar(c)) return true;
+  if (c != '"') {
+    putBackChar(c);
+    while (getChar(c)) {
+      if (isSceneSpace(c)) {
+        putBackChar(c);
+        break;
+      }
+      text += c;
+    }
+    return true;
+  }
+  while (getChar(c)) {
+    if (c == '"') break;
+    if (c == '\\') {
+      char next;
+      if (!getChar(next)) {
+        text += c;
+        break;
+      }
+      if (next == '"') {
+        text += '"';
+        continue;
+      }
+      putBackChar(next);
+    } else if (c == '\n') {
+      ++state_->line;
+    }
+    text += c;
+  }
+  return true;
+}
+
+bool QvSceneInput::readValueText(FieldExpression& expr, QvNode* node) {
+  if (!skipWhiteSpace()) return false;
+  expr.line = state_->line;
+  expr.owner = node;
+  char c;
+  if (!getChar(c)) return false;
+
+  char text[kMaxValueText + 1];
+  size_t length = 0;
+  text[length++] = c;
+  int openParens = c == '(' ? 1 : 0;
+  int closeParens = 0;
+  int openBrackets = 0;
+  int closeBrackets = 0;
+  bool quoted = c == '"';
+
+  while (length < kMaxValueText && getChar(c)) {
+    if (c == '\n') {
+      ++state_->line;
+      break;
+    }
+    bool balanced = openParens == closeParens;
+    if (isSceneSpace(c) && !quoted && balanced) {
+      putBackChar(c);
+      break;
+    }
+    if (c == '\\') {
+      if (!getChar(c)) break;
+      if (c == '\n') ++state_->line;
+      text[length++] = c;
+      continue;
+    }
+    if (c == '"') {
+      quoted = !quoted;
+    } else if (c == ',' && !quoted && balanced) {
+      putBackChar(c);
+      break;
+    } else if (c == '(') {
+      ++openParens;
+    } else if (c == ')') {
+      ++closeParens;
+    } else if (c == '[') {
+      ++openBrackets;
+    } else if (c == ']') {
+      ++closeBrackets;
+      if (closeBrackets != openBrackets) {
+        putBackChar(c);
+        break;
+      }
+    }
+    text[length++] = c;
+  }
+  expr.setText(text, length);
+  return true;
+}
+
+bool QvSceneInput::readDigits(std::string& digits, bool allowSign) {
+  digits.clear();
+  if (!skipWhiteSpace()) return false;
+  char c;
+  if (!getChar(c)) return false;
+  if (allowSign && (c == '-' || c == '+')) {
+    digits += c;
+    if (!getChar(c)) return false;
+  }
+  auto keep = [&digits](char d) {
+    if (digits.size() < kMaxIntegerDigits) digits += d;
+  };
+  if (c == '0') {
+    keep(c);
+    if (!getChar(c)) return true;
+    if (c == 'x') {
+      keep(c);
+      bool any = false;
+      while (getChar(c)) {
+        if (!isHexDigit(c)) {
+          putBackChar(c);
+          break;
+        }
+        keep(c);
+        any = true;
+      }
+      return any;
+    }
+    if (!isAsciiDigit(c)) {
+      putBackChar(c);
+      return true;
+    }
+  } else if (!isAsciiDigit(c)) {
+    putBackChar(c);
+    return false;
+  }
+  keep(c);
+  while (getChar(c)) {
+    if (!isAsciiDigit(c)) {
+      putBackChar(c);
+      break;
+    }
+    keep(c);
+  }
+  return true;
+}
+
+// Values beyond the range of the target type saturate at its limits, as
+// the standard conversions do for their own types: a defined value rather
+// than a wrapped one.
+bool QvSceneInput::readInteger(int32_t& value) {
+  std::string digits;
+  if (!readDigits(digits, true)) return false;
+  long long v = std::strtoll(digits.c_str(), nullptr, 0);
+  value = static_cast<int32_t>(v < INT32_MIN ? INT32_MIN : v > INT32_MAX ? INT32_MAX : v);
+  return true;
+}
+
+bool QvSceneInput::readShort(int16_t& value) {
+  std::string digits;
+  if (!readDigits(digits, true)) return false;
+  long long v = std::strtoll(digits.c_str(), nullptr, 0);
+  value = static_cast<int16_t>(v < INT16_MIN ? INT16_MIN : v > INT16_MAX ? INT16_MAX : v);
+  return true;
+}
+
+bool QvSceneInput::readUnsigned(uint32_t& value) {
+  std::string digits;
+  if (!readDigits(digits, false)) return false;
+  unsigned long long v = std::strtoull(digits.c_str(), nullptr, 0);
+  value = static_cast<uint32_t>(v > UINT32_MAX ? UINT32_MAX : v);
+  return true;
+}
+
+bool QvSceneInput::addName(QvAtom name, QvNode* node) {
+  void* previous = nullptr;
+  bool wasDefined = defTable_.find(name.key(), previous);
+  defTable_.enter(name.key(), node);
+  node->setName(name, wasDefined);
+  return wasDefined;
+}
+
+QvNode* QvSceneInput::findName(QvAtom name) const {
+  void* node = nullptr;
+  defTable_.find(name.key(), node);
+  return static_cast<QvNode*>(node);
+}
+
+}  // namespace lumeric

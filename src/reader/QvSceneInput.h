@@ -1,0 +1,98 @@
+// The scene file being read: header check, white space and comments, line
+// count, names, strings, integers, raw value texts, put-back of characters
+// and words, and the table of DEF names.  One input serves a whole run;
+// included files are read through it with saveState / setFile /
+// restoreState.
+#ifndef LUMERIC_READER_QVSCENEINPUT_H
+#define LUMERIC_READER_QVSCENEINPUT_H
+
+#include <cstdint>
+#include <cstdio>
+#include <memory>
+#include <string>
+
+#include "reader/QvAtom.h"
+#include "reader/QvNameTable.h"
+
+namespace lumeric {
+
+class FieldExpression;
+class QvNode;
+
+// Character classes of the scene reader (the classic locale).  Bytes above
+// 127 are neither letters, digits, white space nor name characters: a name
+// stops in front of them, while a value text keeps them as they are.
+bool isSceneSpace(int c);
+bool isNameChar(int c);
+bool isNameStart(int c);  // a name character that is not a digit
+
+class QvSceneInput {
+ public:
+  static constexpr int kMaxNameLength = 255;
+  static constexpr int kMaxValueText = 511;
+  static constexpr char kEndOfFile = static_cast<char>(255);
+
+  // Name kinds of readName.
+  enum NameKind { kLowerName = 1, kDefName = 2, kUpperName = 3 };
+
+  // The reading state that an INCLUDE saves around the included file.
+  struct State;
+
+  QvSceneInput();
+  ~QvSceneInput();
+  QvSceneInput(const QvSceneInput&) = delete;
+  QvSceneInput& operator=(const QvSceneInput&) = delete;
+
+  // Starts reading `file` (not owned): line 1, header not yet checked.
+  void setFile(FILE* file);
+  // Moves the reading state out (the input is left without a file) and back.
+  std::unique_ptr<State> saveState();
+  void restoreState(std::unique_ptr<State> state);
+
+  // The next character; false (and c = kEndOfFile) at the end of the file
+  // or when the header check fails.
+  bool getChar(char& c);
+  // Gives back the last character read (never the end of the file).
+  void putBackChar(char c);
+  // The whole word is read again before the file; replaces a pending word.
+  void putBackWord(const char* text);
+  // Whether a read has met the end of the file.
+  bool eof() const;
+
+  // Skips white space and comments; fails only when the header check fails.
+  bool skipWhiteSpace();
+  bool readChar(char& c);
+  bool peekChar(char expected);
+  // A name of the given kind after white space; an empty atom when the
+  // first character does not qualify.  At most 255 characters are kept.
+  bool readName(QvAtom& name, int kind);
+  // A quoted or unquoted string after white space.
+  bool readString(std::string& text);
+  // The raw text of one value after white space, recorded in `expr` with the
+  // current line and `node`.  Fails only at the end of the file.
+  bool readValueText(FieldExpression& expr, QvNode* node);
+  bool readInteger(int32_t& value);
+  bool readShort(int16_t& value);
+  bool readUnsigned(uint32_t& value);
+
+  int getLine() const;
+  bool isUsable() const;
+
+  // Enters `node` under `name` in the DEF table (replacing an earlier node)
+  // and names the node.  Tells whether the table already held that name.
+  bool addName(QvAtom name, QvNode* node);
+  QvNode* findName(QvAtom name) const;
+
+ private:
+  bool checkHeader();
+  bool readRaw(char& c);  // the file only, no header check
+  void unreadRaw();
+  bool readDigits(std::string& digits, bool allowSign);
+
+  std::unique_ptr<State> state_;
+  QvNameTable defTable_;
+};
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_READER_QVSCENEINPUT_H

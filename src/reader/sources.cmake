@@ -1,0 +1,10 @@
+set(LUMERIC_READER_SOURCES
+  src/reader/FieldExpression.cpp
+  src/reader/NumberText.cpp
+  src/reader/QvAtom.cpp
+  src/reader/QvAtomPool.cpp
+  src/reader/QvNameTable.cpp
+  src/reader/QvNode.cpp
+  src/reader/QvPointerList.cpp
+  src/reader/QvSceneInput.cpp
+)

@@ -1,0 +1,2 @@
+set(LUMERIC_DRIVER_TESTS
+)

@@ -1,0 +1,2 @@
+set(LUMERIC_EXPR_TESTS
+)

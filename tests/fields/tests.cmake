@@ -1,0 +1,2 @@
+set(LUMERIC_FIELD_TESTS
+)

@@ -1,0 +1,2 @@
+set(LUMERIC_NODE_TESTS
+)

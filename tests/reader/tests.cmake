@@ -1,0 +1,2 @@
+set(LUMERIC_READER_TESTS
+)

@@ -1,0 +1,26 @@
+#include "support/RecordingView.h"
+
+namespace lumeric {
+
+int RecordingView::post(const char* text, int flag) {
+  messages_.push_back({text, flag});
+  return 0;
+}
+
+std::string RecordingView::transcript() const {
+  std::string all;
+  for (const Message& m : messages_) {
+    if (m.flag == 1) all += "error: ";
+    all += m.text;
+    all += '\n';
+  }
+  return all;
+}
+
+int RecordingView::errorCount() const {
+  int count = 0;
+  for (const Message& m : messages_) count += m.flag == 1 ? 1 : 0;
+  return count;
+}
+
+}  // namespace lumeric

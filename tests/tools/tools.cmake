@@ -1,0 +1,1 @@
+# The independent-reader tool is added here.
