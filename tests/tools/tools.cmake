@@ -1,1 +1,12 @@
-# The independent-reader tool is added here.
+# The independent-reader tool: loads VRML 1.0 files with Coin, so tests can
+# check that lumeric's output is a scene another reader accepts and that it is
+# the same scene as a plain input (see vrml1check.cpp for its subcommands).
+find_package(Coin CONFIG QUIET)
+if(NOT Coin_FOUND)
+  message(STATUS "Coin not found: vrml1check and the tests that need it are not built "
+                 "(install libcoin-dev, or configure with -DLUMERIC_COIN_TOOLS=OFF)")
+  return()
+endif()
+
+add_executable(vrml1check ${CMAKE_CURRENT_LIST_DIR}/vrml1check.cpp)
+target_link_libraries(vrml1check PRIVATE Coin::Coin)
