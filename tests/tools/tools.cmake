@@ -10,3 +10,9 @@ endif()
 
 add_executable(vrml1check ${CMAKE_CURRENT_LIST_DIR}/vrml1check.cpp)
 target_link_libraries(vrml1check PRIVATE Coin::Coin)
+
+# Tests check written scenes with it through IndependentReader.h.
+if(TARGET lumeric_tests)
+  target_compile_definitions(lumeric_tests PRIVATE LUMERIC_VRML1CHECK_PATH="$<TARGET_FILE:vrml1check>")
+  add_dependencies(lumeric_tests vrml1check)
+endif()
