@@ -247,6 +247,14 @@ def main():
     parser.add_argument("files", nargs="*",
                         help="corpus file names (default: every .wrl of the corpus)")
     args = parser.parse_args()
+    # lumeric runs from the corpus directory, so the tools need full paths.
+    args.lumeric = os.path.abspath(args.lumeric)
+    if args.vrml1check:
+        args.vrml1check = os.path.abspath(args.vrml1check)
+    for tool in (args.lumeric, args.vrml1check):
+        if tool and not os.access(tool, os.X_OK):
+            print(f"cannot run {tool}: build it first")
+            return 1
 
     corpus = find_corpus(args.source_dir)
     if corpus is None:
