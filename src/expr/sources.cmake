@@ -1,4 +1,16 @@
 set(LUMERIC_EXPR_SOURCES
   src/expr/Term.cpp
   src/expr/TermArena.cpp
+  src/expr/TermKernels.cpp
+  src/expr/TermOperators.cpp
+  src/expr/TermConversions.cpp
+  src/expr/MatrixSolver.cpp
+  src/expr/ExpressionLexer.cpp
+  src/expr/ParseErrors.cpp
+  src/expr/LiteralBuilding.cpp
+  src/expr/FieldReferences.cpp
+  src/expr/AssignmentStatements.cpp
+  src/expr/FunctionCalls.cpp
+  src/expr/NestedParse.cpp
+  src/expr/Evaluation.cpp
 )

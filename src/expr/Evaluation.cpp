@@ -1,0 +1,86 @@
+#include "expr/Evaluation.h"
+
+#include <cstring>
+#include <memory>
+
+#include "driver/QvContext.h"
+#include "expr/NestedParse.h"
+#include "expr/ParseContext.h"
+#include "expr/TermArena.h"
+#include "reader/FieldExpression.h"
+
+namespace lumeric {
+
+namespace {
+
+// A private copy of the text being scanned: an action may store a new text
+// into the very expression being parsed (SET on its own field), which frees
+// the text under the lexer.  Texts are short, so the copy usually lives in
+// the parser's frame.
+class TextCopy {
+ public:
+  explicit TextCopy(const char* text) {
+    const size_t size = std::strlen(text) + 1;
+    char* place = local_;
+    if (size > sizeof local_) {
+      heap_.reset(new char[size]);
+      place = heap_.get();
+    }
+    std::memcpy(place, text, size);
+    text_ = place;
+  }
+  TextCopy(const TextCopy&) = delete;
+  TextCopy& operator=(const TextCopy&) = delete;
+
+  const char* text() const { return text_; }
+
+ private:
+  char local_[256];
+  std::unique_ptr<char[]> heap_;
+  const char* text_;
+};
+
+// Starts an evaluation and parses; the status is kept in the context.
+Term* evaluate(FieldExpression* expression, int startToken) {
+  Term* result = nullptr;
+  const int serial = theContext.startEvaluation();
+  theContext.parseStatus = parseExpression(expression, &result, serial, startToken);
+  return result;
+}
+
+}  // namespace
+
+int parseExpression(FieldExpression* expression, Term** result, int serial, int startToken) {
+  if (expression == nullptr || !expression->hasText()) return 0;
+  NestedParse nesting(expression);
+  const TextCopy text(nesting.admitted() ? expression->textFor(serial) : "0");
+  ParseContext context(expression, text.text(), startToken, result, theContext.drawSerial());
+  return runExpressionParser(&context);
+}
+
+Term* evaluateTerm(FieldExpression* expression) { return evaluate(expression, 0); }
+
+StringTerm* evaluateString(FieldExpression* expression) { return asString(evaluate(expression, 0)); }
+
+StringTerm* evaluateName(FieldExpression* expression) {
+  return asString(evaluate(expression, kNameExpressionStart));
+}
+
+// The scalar is copied out, so every term made for it can go at once.
+int evaluateScalar(FieldExpression* expression, double* out) {
+  TermScope scope;
+  ScalarTerm* scalar = asScalar(evaluate(expression, 0));
+  if (theContext.parseStatus != 0 || scalar == nullptr) return 0;
+  *out = scalar->value;
+  return 1;
+}
+
+int evaluateVector(FieldExpression* expression, double* out, int n) {
+  TermScope scope;
+  VectorTerm* vector = asVectorOf(evaluate(expression, 0), n);
+  if (theContext.parseStatus != 0 || vector == nullptr) return 0;
+  for (int k = 0; k < n; ++k) out[k] = vector->elements[k];
+  return 1;
+}
+
+}  // namespace lumeric

@@ -1,0 +1,81 @@
+// The scanner of expression texts.  Numbers, strings and names become terms
+// as they are scanned, so that the parser's value stack holds terms only.
+#ifndef LUMERIC_EXPR_EXPRESSIONLEXER_H
+#define LUMERIC_EXPR_EXPRESSIONLEXER_H
+
+#include "expr/TokenValue.h"
+
+namespace lumeric {
+
+class FieldExpression;
+
+// Token codes.  Single characters are their own code; the named tokens
+// follow in the order of their names in messages.  COMMENT and END are never
+// scanned; NAMEEXPR is only ever a start token.
+enum ExpressionToken : int {
+  kEndToken = 0,
+  kErrorToken = 256,
+  kAndToken = 257,
+  kAppendToken,
+  kCommentToken,
+  kDeclareToken,
+  kEndKeywordToken,
+  kEqToken,
+  kFalseToken,
+  kIfToken,
+  kThenToken,
+  kElseToken,
+  kGeToken,
+  kGtToken,
+  kLeToken,
+  kLtToken,
+  kNameToken,
+  kNeToken,
+  kNumberToken,
+  kOrToken,
+  kStringToken,
+  kSetToken,
+  kUseToken,
+  kTrueToken,
+  kNameExpressionToken,  // 279
+};
+
+class ExpressionLexer {
+ public:
+  // Scans `text` (NUL-terminated, kept alive by the caller for the life of
+  // the lexer).  A non-zero `startToken` is delivered before anything else.
+  ExpressionLexer(FieldExpression* expression, const char* text, int startToken);
+  ExpressionLexer(const ExpressionLexer&) = delete;
+  ExpressionLexer& operator=(const ExpressionLexer&) = delete;
+
+  // The next token code, with *value filled (value must be set first).
+  // At the end of the text, or at a control character, every call gives 0.
+  int nextToken();
+
+  // The text naming a token in messages.  It lives in a static buffer that
+  // the next call overwrites.
+  static const char* describeToken(int code);
+
+  FieldExpression* expression;  // where the text came from
+  const char* cursor;           // the next unread character
+  TokenValue* value;            // the parser's current token value
+  int startToken;
+
+ private:
+  enum : int { kSkip = -1 };
+
+  int scanToken(const char* start);
+  int scanPunctuation(unsigned char c);
+  int scanNumber(const char* start);
+  double scanRadixNumber(const char* digits, int base);
+  double scanDecimalNumber(const char* start);
+  int scanString();
+  int scanName(const char* start);
+  int followedBy(char second, int pairToken, int singleToken);
+  void skipWhiteSpace();
+  void skipComment();
+};
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_EXPR_EXPRESSIONLEXER_H

@@ -1,0 +1,119 @@
+#include "expr/FieldReferences.h"
+
+#include <cstdio>
+
+#include "driver/LibraryState.h"
+#include "driver/QvContext.h"
+#include "expr/TermConversions.h"
+#include "reader/FieldExpression.h"
+#include "reader/QvField.h"
+#include "reader/QvFieldTable.h"
+#include "reader/QvNode.h"
+#include "reader/QvSceneInput.h"
+
+namespace lumeric {
+
+namespace {
+
+// The indices written after a reference; -1 where none was written.
+struct Selection {
+  int count = 0;
+  int i = -1;
+  int j = -1;
+};
+
+bool selectionFrom(Term* first, Term* second, Selection* selection, FieldExpression* at) {
+  if ((first != nullptr && !indexFromTerm(first, &selection->i)) ||
+      (second != nullptr && !indexFromTerm(second, &selection->j))) {
+    theContext.reportAtExpression(at, "Cannot use a term as an index");
+    return false;
+  }
+  selection->count = first == nullptr ? 0 : (second == nullptr ? 1 : 2);
+  return true;
+}
+
+// The field refused the selection.  Without indices the message says the
+// field is not defined, except for a field of the owner itself.
+void reportUnusable(FieldExpression* at, const char* label, const Selection& selection, bool plainIsDefined) {
+  switch (selection.count) {
+    case 0:
+      theContext.reportAtExpression(at, plainIsDefined ? "%s is not defined" : "%s is not a valid element", label);
+      break;
+    case 1:
+      theContext.reportAtExpression(at, "%s[%d] is not a valid element", label, selection.i);
+      break;
+    default:
+      theContext.reportAtExpression(at, "%s[%d][%d] is not a valid element", label, selection.i, selection.j);
+      break;
+  }
+}
+
+Term* valueOf(QvField* field, const char* label, const Selection& selection, bool plainIsDefined,
+              FieldExpression* at) {
+  if (field == nullptr) {
+    theContext.reportAtExpression(at, "Field %s not found", label);
+    return nullptr;
+  }
+  Term* value = field->GetLumericValue(selection.i, selection.j, at);
+  if (value == nullptr) reportUnusable(at, label, selection, plainIsDefined);
+  return value;
+}
+
+}  // namespace
+
+QvField* findLocalField(QvNode* node, QvAtom name) {
+  if (node == nullptr) return nullptr;
+  QvFieldTable* table = node->getFieldTable();
+  return table != nullptr ? table->findField(node, name) : nullptr;
+}
+
+QvField* findFieldInScope(QvAtom name) {
+  for (QvNode* node = theContext.topNode(); node != nullptr; node = node->parent) {
+    if (QvField* field = findLocalField(node, name)) return field;
+  }
+  return nullptr;
+}
+
+QvField* findNodeField(const char* nodeName, const char* fieldName) {
+  if (currentInput == nullptr) return nullptr;
+  QvNode* node = currentInput->findName(QvAtom(nodeName));
+  return findLocalField(node, QvAtom(fieldName));
+}
+
+Term* referToField(const char* name, Term* first, Term* second, FieldExpression* at) {
+  Selection selection;
+  if (!selectionFrom(first, second, &selection, at)) return nullptr;
+  const QvAtom atom(name);
+  QvField* field = findLocalField(at != nullptr ? at->owner : nullptr, atom);
+  const bool inScope = field == nullptr;
+  if (inScope) field = findFieldInScope(atom);
+  return valueOf(field, name, selection, inScope, at);
+}
+
+Term* referToFieldInScope(const char* name, Term* first, Term* second, FieldExpression* at) {
+  Selection selection;
+  if (!selectionFrom(first, second, &selection, at)) return nullptr;
+  return valueOf(findFieldInScope(QvAtom(name)), name, selection, true, at);
+}
+
+Term* referToNodeField(const char* nodeName, const char* fieldName, Term* first, Term* second,
+                       FieldExpression* at) {
+  Selection selection;
+  if (!selectionFrom(first, second, &selection, at)) return nullptr;
+  char label[QvContext::kMessageLimit + 1];
+  std::snprintf(label, sizeof label, "%s:%s", nodeName, fieldName);
+  return valueOf(findNodeField(nodeName, fieldName), label, selection, true, at);
+}
+
+Term* localFieldValue(QvNode* node, const char* name, FieldExpression* at) {
+  QvField* field = findLocalField(node, QvAtom(name));
+  if (field == nullptr) {
+    theContext.reportAtExpression(at, "Local Field %s not found", name);
+    return nullptr;
+  }
+  Term* value = field->GetLumericValue(-1, -1, at);
+  if (value == nullptr) theContext.reportAtExpression(at, "%s is not a valid element", name);
+  return value;
+}
+
+}  // namespace lumeric
