@@ -1,2 +1,27 @@
 set(LUMERIC_FIELD_SOURCES
+  src/fields/ExpressionListField.cpp
+  src/fields/ExpressionStore.cpp
+  src/fields/FieldFactory.cpp
+  src/fields/FieldSupport.cpp
+  src/fields/QvMFColor.cpp
+  src/fields/QvMFFloat.cpp
+  src/fields/QvMFLong.cpp
+  src/fields/QvMFString.cpp
+  src/fields/QvMFVec2f.cpp
+  src/fields/QvMFVec3f.cpp
+  src/fields/QvMFVec4f.cpp
+  src/fields/QvSFBitMask.cpp
+  src/fields/QvSFBool.cpp
+  src/fields/QvSFColor.cpp
+  src/fields/QvSFEnum.cpp
+  src/fields/QvSFFloat.cpp
+  src/fields/QvSFImage.cpp
+  src/fields/QvSFLong.cpp
+  src/fields/QvSFMatrix.cpp
+  src/fields/QvSFNode.cpp
+  src/fields/QvSFRotation.cpp
+  src/fields/QvSFString.cpp
+  src/fields/QvSFVec2f.cpp
+  src/fields/QvSFVec3f.cpp
+  src/fields/QvSFVec4f.cpp
 )

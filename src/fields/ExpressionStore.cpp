@@ -1,0 +1,70 @@
+#include "fields/ExpressionStore.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace lumeric {
+
+namespace {
+
+size_t segmentElements(int segment) { return size_t{1} << segment; }
+
+}  // namespace
+
+ExpressionStore::~ExpressionStore() {
+  resize(0);
+  std::free(segments_);
+}
+
+void ExpressionStore::resize(int count) {
+  if (count < 0) count = 0;
+  if (count > size_) {
+    addSegmentsFor(count);
+    for (int i = size_; i < count; ++i) {
+      FieldExpression* first = element(i);
+      for (int k = 0; k < width_; ++k) new (first + k) FieldExpression();
+    }
+  } else {
+    for (int i = count; i < size_; ++i) {
+      FieldExpression* first = element(i);
+      for (int k = 0; k < width_; ++k) first[k].~FieldExpression();
+    }
+    releaseSegmentsFrom(count);
+  }
+  size_ = count;
+}
+
+void ExpressionStore::addSegmentsFor(int count) {
+  int needed = segmentOf(static_cast<uint32_t>(count)) + 1;  // the segment of element count - 1
+  if (needed <= segmentCount_) return;
+  void* table = std::realloc(segments_, sizeof(FieldExpression*) * static_cast<size_t>(needed));
+  if (table == nullptr) throw std::bad_alloc();
+  segments_ = static_cast<FieldExpression**>(table);
+  for (int k = segmentCount_; k < needed; ++k) segments_[k] = nullptr;
+  for (int k = segmentCount_; k < needed; ++k) {
+    size_t bytes = sizeof(FieldExpression) * segmentElements(k) * static_cast<size_t>(width_);
+    void* memory = std::malloc(bytes);
+    if (memory == nullptr) {
+      segmentCount_ = k;
+      throw std::bad_alloc();
+    }
+    segments_[k] = static_cast<FieldExpression*>(memory);
+  }
+  segmentCount_ = needed;
+}
+
+// Segments that hold no live element any more are returned at once, so a
+// list that shrinks gives its memory back.
+void ExpressionStore::releaseSegmentsFrom(int count) {
+  while (segmentCount_ > 0 && segmentElements(segmentCount_ - 1) - 1 >= static_cast<size_t>(count)) {
+    --segmentCount_;
+    std::free(segments_[segmentCount_]);
+    segments_[segmentCount_] = nullptr;
+  }
+  if (segmentCount_ == 0) {
+    std::free(segments_);
+    segments_ = nullptr;
+  }
+}
+
+}  // namespace lumeric

@@ -1,0 +1,116 @@
+#include "fields/FieldSupport.h"
+
+#include <climits>
+#include <cmath>
+#include <cstring>
+#include <string>
+
+#include "driver/LibraryState.h"
+#include "driver/QvContext.h"
+#include "expr/Evaluation.h"
+#include "reader/FieldExpression.h"
+#include "reader/NumberText.h"
+
+namespace lumeric {
+
+double numberOf(FieldExpression& expr) {
+  double value = 0;
+  evaluateScalar(&expr, &value);
+  return value;
+}
+
+void numbersOf(FieldExpression* exprs, int count, double* out) {
+  for (int k = 0; k < count; ++k) out[k] = numberOf(exprs[k]);
+}
+
+void storeNumbers(FieldExpression* exprs, const double* values, int count) {
+  for (int k = 0; k < count; ++k) exprs[k].setNumber(values[k]);
+}
+
+void storeString(FieldExpression& expr, const char* text, bool quoted) {
+  if (text == nullptr) text = "";
+  if (!quoted) {
+    expr.setText(text);
+    return;
+  }
+  std::string enclosed;
+  enclosed.reserve(std::strlen(text) + 2);
+  enclosed += '"';
+  enclosed += text;
+  enclosed += '"';
+  expr.setText(enclosed.c_str(), enclosed.size());
+}
+
+void clearTexts(FieldExpression* exprs, int count) {
+  for (int k = 0; k < count; ++k) exprs[k].clearText();
+}
+
+int truncateToInt(double v) {
+  if (std::isnan(v)) return 0;
+  if (v <= static_cast<double>(INT_MIN)) return INT_MIN;
+  if (v >= static_cast<double>(INT_MAX)) return INT_MAX;
+  return static_cast<int>(v);
+}
+
+VectorTerm* makeVector(const double* values, int count) {
+  VectorTerm* term = VectorTerm::make(count);
+  if (count > 0) std::memcpy(term->elements, values, sizeof(double) * static_cast<size_t>(count));
+  return term;
+}
+
+MatrixTerm* makeMatrix(const double* values, int rows, int cols) {
+  MatrixTerm* term = MatrixTerm::make(rows, cols);
+  if (rows > 0 && cols > 0) {
+    std::memcpy(term->elements, values, sizeof(double) * static_cast<size_t>(rows) * static_cast<size_t>(cols));
+  }
+  return term;
+}
+
+void reportAt(const FieldExpression* at, const char* message) {
+  theContext.reportAtExpression(at, "%s", message);
+}
+
+OutputText& OutputText::text(const char* s) {
+  size_t length = std::strlen(s);
+  if (length > sizeof buffer_ / 2) {
+    flush();
+    std::fwrite(s, 1, length, out_);
+    return *this;
+  }
+  makeRoom(length);
+  std::memcpy(buffer_ + used_, s, length);
+  used_ += length;
+  return *this;
+}
+
+OutputText& OutputText::character(char c) {
+  makeRoom(1);
+  buffer_[used_++] = c;
+  return *this;
+}
+
+OutputText& OutputText::number(double v) {
+  makeRoom(kNumberTextSize);
+  used_ += static_cast<size_t>(formatNumber(buffer_ + used_, v));
+  return *this;
+}
+
+OutputText& OutputText::rounded(double v) { return number(roundToPrecision(v)); }
+
+OutputText& OutputText::integer(long v) {
+  makeRoom(kNumberTextSize);
+  used_ += static_cast<size_t>(formatInteger(buffer_ + used_, v));
+  return *this;
+}
+
+OutputText& OutputText::indentation() {
+  for (int k = 0; k < theContext.indentLevel; ++k) character('\t');
+  return *this;
+}
+
+void OutputText::flush() {
+  if (used_ > 0) std::fwrite(buffer_, 1, used_, out_);
+  used_ = 0;
+}
+
+}  // namespace lumeric

@@ -1,0 +1,7 @@
+#include "fields/QvMFColor.h"
+
+namespace lumeric {
+
+template class MFVectorField<QvMFColor, QvMFColorTraits>;
+
+}  // namespace lumeric

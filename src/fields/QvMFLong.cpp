@@ -1,0 +1,7 @@
+#include "fields/QvMFLong.h"
+
+namespace lumeric {
+
+template class MFNumberField<QvMFLong, QvMFLongTraits>;
+
+}  // namespace lumeric

@@ -1,0 +1,86 @@
+#include "fields/QvSFBitMask.h"
+
+#include "driver/QvContext.h"
+#include "fields/FieldSupport.h"
+#include "reader/QvSceneInput.h"
+
+namespace lumeric {
+
+void QvSFBitMask::SetLumericValue(Term*, int, int, FieldExpression* at) {
+  reportAt(at, "Not implemented: tried to access SFBitMask::SetLumericValue");
+}
+
+Term* QvSFBitMask::GetLumericValue(int, int, FieldExpression* at) {
+  reportAt(at, "Not implemented: tried to access SFBitMask::GetLumericValue");
+  return nullptr;
+}
+
+// A value that no single entry holds lists every entry sharing at least one
+// bit with it, so a combined entry such as ALL appears with the flags it
+// covers; reading that text back can give a larger value, but no flag that
+// was set is lost.
+void QvSFBitMask::write(FILE* out) {
+  OutputText text(out);
+  int entry = findValue(value);
+  if (entry >= 0) {
+    text.character(' ').text(enumNames[entry].text()).character('\n');
+    return;
+  }
+  text.text(" ( ");
+  bool first = true;
+  for (int k = 0; k < numEnums; ++k) {
+    if ((enumValues[k] & value) == 0) continue;
+    if (!first) text.text(" | ");
+    text.text(enumNames[k].text());
+    first = false;
+  }
+  text.text(" )\n");
+}
+
+QvField* QvSFBitMask::clone() {
+  QvSFBitMask* copy = new QvSFBitMask;
+  copy->copyFrom(*this);
+  return copy;
+}
+
+bool QvSFBitMask::lookUpFlag(QvSceneInput* in, QvAtom name, int& flag) {
+  int entry = findName(name);
+  if (entry < 0) {
+    theContext.readError(in, "Unknown QvSFBitMask bit mask value \"%s\"", name.text());
+    return false;
+  }
+  flag = enumValues[entry];
+  return true;
+}
+
+bool QvSFBitMask::readValue(QvSceneInput* in) {
+  char c;
+  bool gotChar = in->readChar(c);
+  QvAtom name;
+  int flag = 0;
+  if (!gotChar || c != '(') {
+    if (gotChar) in->putBackChar(c);
+    if (!in->readName(name, QvSceneInput::kUpperName) || !lookUpFlag(in, name, flag)) return false;
+    value = flag;
+    return true;
+  }
+  value = 0;
+  for (;;) {
+    if (!in->readName(name, QvSceneInput::kUpperName)) return false;
+    if (!name.isEmpty()) {
+      if (!lookUpFlag(in, name, flag)) return false;
+      value |= flag;
+    }
+    if (!in->readChar(c)) {
+      theContext.readError(in, "EOF reached before '%c' in QvSFBitMask value", ')');
+      return false;
+    }
+    if (c == ')') return true;
+    if (c != '|') {
+      theContext.readError(in, "Expected '%c' or '%c', got '%c' in QvSFBitMask value", '|', ')', c);
+      return false;
+    }
+  }
+}
+
+}  // namespace lumeric

@@ -1,0 +1,28 @@
+// SFBitMask: a combination of flags of an enumeration, read as one name or
+// as names joined by "|" in parentheses.
+#ifndef LUMERIC_FIELDS_QVSFBITMASK_H
+#define LUMERIC_FIELDS_QVSFBITMASK_H
+
+#include "fields/QvSFEnum.h"
+
+namespace lumeric {
+
+class QvSFBitMask : public QvSFEnum {
+ public:
+  const char* getTypeName() const override { return "SFBitMask"; }
+  void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
+  Term* GetLumericValue(int i, int j, FieldExpression* at) override;
+  // One name when an entry holds exactly `value`; otherwise " ( ", the
+  // entries sharing a bit with `value` joined by " | ", " )\n".
+  void write(FILE* out) override;
+  QvField* clone() override;
+  bool readValue(QvSceneInput* in) override;
+
+ private:
+  // The value of the entry named `name`; reports an unknown name.
+  bool lookUpFlag(QvSceneInput* in, QvAtom name, int& flag);
+};
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_FIELDS_QVSFBITMASK_H

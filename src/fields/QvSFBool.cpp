@@ -1,0 +1,7 @@
+#include "fields/QvSFBool.h"
+
+namespace lumeric {
+
+template class SFNumberField<QvSFBool, QvSFBoolTraits>;
+
+}  // namespace lumeric

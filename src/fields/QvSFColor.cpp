@@ -1,0 +1,83 @@
+#include "fields/QvSFColor.h"
+
+#include "driver/QvContext.h"
+#include "expr/Evaluation.h"
+
+namespace lumeric {
+
+template class WholeExpressionField<3>;
+
+void QvSFColor::SetLumericValue(Term* term, int i, int j, FieldExpression* at) {
+  if (isExpression) return reportAt(at, "This field is defined by a field expression - cannot set its value");
+  if (i == -1 && j == -1) {
+    VectorTerm* vector = asVectorOf(term, 3);
+    if (vector == nullptr) return reportAt(at, "Cannot set QvSFColor using this value");
+    storeComponents(vector->elements);
+    return;
+  }
+  ScalarTerm* number = asScalar(term);
+  if (number == nullptr || i < 0 || i >= 3) return reportAt(at, "Cannot set SFColor using this value");
+  values[i].setNumber(number->value);
+}
+
+Term* QvSFColor::GetLumericValue(int i, int j, FieldExpression* at) {
+  bool whole = i == -1 && j == -1;
+  if (isExpression) {
+    Term* value = evaluateTerm(&wholeExpression);
+    if (whole) return value;
+    VectorTerm* vector = asVectorOf(value, 3);
+    if (vector != nullptr && i >= 0 && i < 3) return ScalarTerm::make(vector->elements[i]);
+    theContext.reportAtExpression(at, "Bounds error: tried to access SFColor[%d]", i);
+    return nullptr;
+  }
+  double numbers[3];
+  if (whole) {
+    componentNumbers(numbers);
+    return makeVector(numbers, 3);
+  }
+  if (i >= 0 && i < 3) return ScalarTerm::make(numberOf(values[i]));
+  theContext.reportAtExpression(at, "Bounds error: tried to access SFColor[%d]", i);
+  return ScalarTerm::make(0);
+}
+
+void QvSFColor::write(FILE* out) {
+  double numbers[3];
+  if (isExpression) {
+    VectorTerm* vector = asVectorOf(evaluateTerm(&wholeExpression), 3);
+    if (vector == nullptr) return reportAt(&wholeExpression, "Field expression does not evaluate to a color field");
+    for (int k = 0; k < 3; ++k) numbers[k] = vector->elements[k];
+  } else {
+    componentNumbers(numbers);
+  }
+  OutputText(out).character(' ').number(numbers[0]).character(' ').number(numbers[1]).character(' ').number(numbers[2]).character('\n');
+}
+
+QvField* QvSFColor::clone() {
+  QvSFColor* copy = new QvSFColor;
+  copy->copyFrom(*this);
+  return copy;
+}
+
+void QvSFColor::copyValueFrom(QvField* source) {
+  if (QvSFColor* same = dynamic_cast<QvSFColor*>(source)) copyFrom(*same);
+}
+
+void QvSFColor::copyFrom(QvSFColor& source) {
+  isExpression = 0;
+  if (source.isExpression) {
+    VectorTerm* vector = asVectorOf(evaluateTerm(&source.wholeExpression), 3);
+    if (vector == nullptr) return clearTexts(values, 3);
+    storeComponents(vector->elements);
+    return;
+  }
+  double numbers[3];
+  source.componentNumbers(numbers);
+  storeComponents(numbers);
+}
+
+void QvSFColor::setDefault(double r, double g, double b) {
+  const double numbers[3] = {r, g, b};
+  storeComponents(numbers);
+}
+
+}  // namespace lumeric

@@ -1,0 +1,81 @@
+#include "fields/QvSFEnum.h"
+
+#include "driver/QvContext.h"
+#include "fields/FieldSupport.h"
+#include "reader/QvSceneInput.h"
+
+namespace lumeric {
+
+void QvSFEnum::SetLumericValue(Term*, int, int, FieldExpression* at) {
+  reportAt(at, "Not implemented: tried to access a SFEnum::SetLumericValue");
+}
+
+Term* QvSFEnum::GetLumericValue(int, int, FieldExpression* at) {
+  reportAt(at, "Not implemented: tried to access a SFEnum::GetLumericValue");
+  return nullptr;
+}
+
+// A value that no entry holds (an enumeration field of a node whose class
+// is not built in has no entries at all) is written as its number, so that
+// the line still ends.
+void QvSFEnum::write(FILE* out) {
+  OutputText text(out);
+  int entry = findValue(value);
+  text.character(' ');
+  if (entry >= 0) {
+    text.text(enumNames[entry].text());
+  } else {
+    text.integer(value);
+  }
+  text.character('\n');
+}
+
+QvField* QvSFEnum::clone() {
+  QvSFEnum* copy = new QvSFEnum;
+  copy->copyFrom(*this);
+  return copy;
+}
+
+bool QvSFEnum::readValue(QvSceneInput* in) {
+  QvAtom name;
+  if (!in->readName(name, QvSceneInput::kUpperName)) return false;
+  int entry = findName(name);
+  if (entry < 0) {
+    theContext.readError(in, "Unknown QvSFEnum enumeration value \"%s\"", name.text());
+    return false;
+  }
+  value = enumValues[entry];
+  return true;
+}
+
+void QvSFEnum::copyValueFrom(QvField* source) {
+  if (QvSFEnum* same = dynamic_cast<QvSFEnum*>(source)) copyFrom(*same);
+}
+
+void QvSFEnum::copyFrom(QvSFEnum& source) {
+  value = source.value;
+  setEnumData(source.numEnums, source.enumValues, source.enumNames);
+}
+
+void QvSFEnum::setEnumData(int count, const int* values, const QvAtom* names) {
+  bool usable = count > 0 && values != nullptr && names != nullptr;
+  numEnums = usable ? count : 0;
+  enumValues = usable ? values : nullptr;
+  enumNames = usable ? names : nullptr;
+}
+
+int QvSFEnum::findName(QvAtom name) const {
+  for (int k = 0; k < numEnums; ++k) {
+    if (enumNames[k] == name) return k;
+  }
+  return -1;
+}
+
+int QvSFEnum::findValue(int v) const {
+  for (int k = 0; k < numEnums; ++k) {
+    if (enumValues[k] == v) return k;
+  }
+  return -1;
+}
+
+}  // namespace lumeric

@@ -1,0 +1,7 @@
+#include "fields/QvSFFloat.h"
+
+namespace lumeric {
+
+template class SFNumberField<QvSFFloat, QvSFFloatTraits>;
+
+}  // namespace lumeric

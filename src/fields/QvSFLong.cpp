@@ -1,0 +1,7 @@
+#include "fields/QvSFLong.h"
+
+namespace lumeric {
+
+template class SFNumberField<QvSFLong, QvSFLongTraits>;
+
+}  // namespace lumeric

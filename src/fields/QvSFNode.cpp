@@ -1,0 +1,7 @@
+#include "fields/QvSFNode.h"
+
+namespace lumeric {
+
+template class SFStringField<QvSFNode, QvSFNodeTraits>;
+
+}  // namespace lumeric

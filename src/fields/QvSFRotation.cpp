@@ -1,0 +1,98 @@
+#include "fields/QvSFRotation.h"
+
+#include "driver/QvContext.h"
+#include "expr/Evaluation.h"
+
+namespace lumeric {
+
+template class WholeExpressionField<4>;
+
+void QvSFRotation::SetLumericValue(Term* term, int i, int j, FieldExpression* at) {
+  if (isExpression) return reportAt(at, "This field is defined by a expression - cannot set its value");
+  VectorTerm* vector = asVectorOf(term, 4);
+  ScalarTerm* number = asScalar(term);
+  if (i == -1 && j == -1 && vector != nullptr) {
+    storeComponents(vector->elements);
+  } else if (i >= 0 && i < 4 && number != nullptr) {
+    values[i].setNumber(number->value);
+  } else {
+    reportAt(at, "Cannot set a SFRotation field using this expression");
+  }
+}
+
+Term* QvSFRotation::GetLumericValue(int i, int j, FieldExpression* at) {
+  bool whole = i == -1 && j == -1;
+  if (isExpression) {
+    Term* value = evaluateTerm(&wholeExpression);
+    VectorTerm* vector = asVectorOf(value, 4);
+    bool component = i >= 0 && i < 4 && j == -1;
+    if (value == nullptr || (component && vector == nullptr)) {
+      reportAt(at, "Invalid value");
+      return nullptr;
+    }
+    if (whole) return value;
+    if (component) return ScalarTerm::make(vector->elements[i]);
+    if (i >= 4) theContext.reportAtExpression(at, "Bounds error: tried to access SFRotation[%d]", i);
+    return nullptr;
+  }
+  double numbers[4];
+  if (whole) {
+    componentNumbers(numbers);
+    return makeVector(numbers, 4);
+  }
+  if (i >= 0 && i < 4) return ScalarTerm::make(numberOf(values[i]));
+  theContext.reportAtExpression(at, "Bounds error: tried to access SFRotation[%d]", i);
+  return ScalarTerm::make(0);
+}
+
+void QvSFRotation::write(FILE* out) {
+  if (isExpression) {
+    double numbers[4];
+    if (!evaluateVector(&wholeExpression, numbers, 4)) {
+      return reportAt(&wholeExpression, "Cannot use this expression to set a rotation field");
+    }
+    // Each number is written " %g " (the last " %g\n"), so two blanks
+    // separate them.
+    OutputText text(out);
+    for (int k = 0; k < 4; ++k) text.character(' ').number(numbers[k]).character(k < 3 ? ' ' : '\n');
+    return;
+  }
+  double numbers[4];
+  componentNumbers(numbers);
+  OutputText text(out);
+  for (int k = 0; k < 3; ++k) text.character(' ').rounded(numbers[k]);
+  text.character(' ').number(numbers[3]).character('\n');
+}
+
+QvField* QvSFRotation::clone() {
+  QvSFRotation* copy = new QvSFRotation;
+  copy->copyFrom(*this);
+  return copy;
+}
+
+void QvSFRotation::copyValueFrom(QvField* source) {
+  if (QvSFRotation* same = dynamic_cast<QvSFRotation*>(source)) copyFrom(*same);
+}
+
+void QvSFRotation::copyFrom(QvSFRotation& source) {
+  isExpression = 0;
+  if (source.isExpression) {
+    VectorTerm* vector = asVectorOf(evaluateTerm(&source.wholeExpression), 4);
+    if (vector == nullptr) {
+      clearTexts(values, 4);
+      return reportAt(&source.wholeExpression, "Cannot set a SFRotation field using this expression");
+    }
+    storeComponents(vector->elements);
+    return;
+  }
+  double numbers[4];
+  source.componentNumbers(numbers);
+  storeComponents(numbers);
+}
+
+void QvSFRotation::setDefault(double x, double y, double z, double angle) {
+  const double numbers[4] = {x, y, z, angle};
+  storeComponents(numbers);
+}
+
+}  // namespace lumeric

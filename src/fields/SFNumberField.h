@@ -1,0 +1,78 @@
+// The single-number fields QvSFFloat, QvSFLong and QvSFBool: one
+// expression, evaluated as a number.  A Traits class gives each type's
+// name, messages and written form:
+//   kTypeName, kCannotSet, kBounds (a format with the index),
+//   kGetGivesNumber: true when GetLumericValue always answers with a new
+//     ScalarTerm (0 after the bounds message); false when it gives the
+//     evaluated term and null after the bounds message,
+//   static void writeValue(OutputText&, double): the text after " ".
+#ifndef LUMERIC_FIELDS_SFNUMBERFIELD_H
+#define LUMERIC_FIELDS_SFNUMBERFIELD_H
+
+#include "driver/QvContext.h"
+#include "expr/Evaluation.h"
+#include "fields/FieldSupport.h"
+#include "reader/FieldExpression.h"
+#include "reader/QvField.h"
+#include "reader/QvSceneInput.h"
+
+namespace lumeric {
+
+template <class Derived, class Traits>
+class SFNumberField : public QvSingleField {
+ public:
+  const char* getTypeName() const override { return Traits::kTypeName; }
+  void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
+  Term* GetLumericValue(int i, int j, FieldExpression* at) override;
+  void write(FILE* out) override;
+  QvField* clone() override;
+  void attachNode(QvNode* node) override { value.attachOwner(node); }
+  // One value text; a leading "=" is left to the parser.
+  bool readValue(QvSceneInput* in) override { return in->readValueText(value, container); }
+  void copyValueFrom(QvField* source) override;
+
+  // Stores the evaluated number of `source`.
+  void copyFrom(Derived& source) { value.setNumber(numberOf(source.value)); }
+
+  FieldExpression value;
+};
+
+template <class Derived, class Traits>
+void SFNumberField<Derived, Traits>::SetLumericValue(Term* term, int, int, FieldExpression* at) {
+  ScalarTerm* number = asScalar(term);
+  if (number == nullptr) return reportAt(at, Traits::kCannotSet);
+  value.setNumber(number->value);
+}
+
+template <class Derived, class Traits>
+Term* SFNumberField<Derived, Traits>::GetLumericValue(int i, int, FieldExpression* at) {
+  if (i >= 1) {
+    theContext.reportAtExpression(at, Traits::kBounds, i);
+    return Traits::kGetGivesNumber ? ScalarTerm::make(0) : nullptr;
+  }
+  if (Traits::kGetGivesNumber) return ScalarTerm::make(numberOf(value));
+  return evaluateTerm(&value);
+}
+
+template <class Derived, class Traits>
+void SFNumberField<Derived, Traits>::write(FILE* out) {
+  OutputText text(out);
+  text.character(' ');
+  Traits::writeValue(text, numberOf(value));
+}
+
+template <class Derived, class Traits>
+QvField* SFNumberField<Derived, Traits>::clone() {
+  Derived* copy = new Derived;
+  copy->copyFrom(static_cast<Derived&>(*this));
+  return copy;
+}
+
+template <class Derived, class Traits>
+void SFNumberField<Derived, Traits>::copyValueFrom(QvField* source) {
+  if (Derived* same = dynamic_cast<Derived*>(source)) copyFrom(*same);
+}
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_FIELDS_SFNUMBERFIELD_H
