@@ -36,9 +36,9 @@ void declareField(const char* nodeName, const char* fieldName, Term* value, Fiel
   QvField* field = targetField(nodeName, fieldName, at);
   if (field == nullptr) return;
   if (VectorTerm* pair = asVectorOf(value, 2)) {
-    field->setCapacity(truncateToInt(pair->elements[0]), truncateToInt(pair->elements[1]));
+    field->setCapacity(truncateToIndex(pair->elements[0]), truncateToIndex(pair->elements[1]));
   } else if (ScalarTerm* count = asScalar(value)) {
-    field->setCapacity(truncateToInt(count->value), 0);
+    field->setCapacity(truncateToIndex(count->value), 0);
   } else {
     theContext.reportAtExpression(at, "Cannot declare value using this expression");
   }

@@ -85,7 +85,7 @@ MatrixTerm* transposeTerm(const MatrixTerm* m) {
   return result;
 }
 
-int truncateToInt(double value) {
+int truncateToIndex(double value) {
   if (std::isnan(value) || value <= static_cast<double>(INT_MIN)) return INT_MIN;
   if (value >= static_cast<double>(INT_MAX)) return INT_MAX;
   return static_cast<int>(value);
@@ -93,7 +93,7 @@ int truncateToInt(double value) {
 
 bool indexFromTerm(const Term* term, int* index) {
   if (term == nullptr || term->kind != kScalarTerm) return false;
-  *index = truncateToInt(static_cast<const ScalarTerm*>(term)->value);
+  *index = truncateToIndex(static_cast<const ScalarTerm*>(term)->value);
   return true;
 }
 

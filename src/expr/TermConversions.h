@@ -24,7 +24,7 @@ MatrixTerm* transposeTerm(const MatrixTerm* m);
 // `value` truncated toward zero.  Values beyond the int range saturate and
 // NaN gives the smallest int, so any number the user writes becomes a
 // definite (if invalid) index or count.
-int truncateToInt(double value);
+int truncateToIndex(double value);
 // The scalar `term` truncated into *index; false when it is not a scalar.
 bool indexFromTerm(const Term* term, int* index);
 

@@ -1,2 +1,7 @@
 set(LUMERIC_EXPR_TESTS
+  expr/ExpressionFixture.cpp
+  expr/ExpressionLexerTest.cpp
+  expr/TermOperatorsTest.cpp
+  expr/MatrixSolverTest.cpp
+  expr/EvaluationTest.cpp
 )

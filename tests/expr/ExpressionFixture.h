@@ -1,0 +1,48 @@
+// A test fixture for the expression language: messages go to a recording
+// view, expressions have no owner (so messages start with "Line 3: "), and
+// every term is freed after each test.
+#ifndef LUMERIC_TESTS_EXPR_EXPRESSIONFIXTURE_H
+#define LUMERIC_TESTS_EXPR_EXPRESSIONFIXTURE_H
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "driver/QvContext.h"
+#include "expr/Term.h"
+#include "reader/FieldExpression.h"
+#include "support/RecordingView.h"
+
+namespace lumeric {
+
+// A term as short text: "scalar 7", "vector (1,2)", "matrix (1,2;3,4)",
+// "string \"a\"", or "none".
+std::string describeTerm(const Term* term);
+
+class ExpressionFixture : public ::testing::Test {
+ protected:
+  static constexpr int kLine = 3;
+
+  void SetUp() override { theContext.setView(&view_); }
+  void TearDown() override {
+    theContext.setView(nullptr);
+    freeAllTerms();
+  }
+
+  // A new expression holding `text`, alive until the end of the test.
+  FieldExpression* expression(const std::string& text);
+  // The messages posted so far, without the "Line 3: " prefix (whose
+  // presence is checked), and forgets them.
+  std::vector<std::string> takeMessages();
+
+  RecordingView view_;
+
+ private:
+  std::deque<FieldExpression> expressions_;
+};
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_TESTS_EXPR_EXPRESSIONFIXTURE_H
