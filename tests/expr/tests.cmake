@@ -4,4 +4,7 @@ set(LUMERIC_EXPR_TESTS
   expr/TermOperatorsTest.cpp
   expr/MatrixSolverTest.cpp
   expr/EvaluationTest.cpp
+  expr/TestField.cpp
+  expr/TestNode.cpp
+  expr/FieldReferencesTest.cpp
 )
