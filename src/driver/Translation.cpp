@@ -1,25 +1,204 @@
 #include "driver/Translation.h"
 
+#include <cerrno>
+#include <cstring>
+#include <exception>
+#include <string>
+
+#include <strings.h>
+
 #include "driver/LibraryState.h"
 #include "driver/QvContext.h"
+#include "expr/Term.h"
+#include "reader/NodeReader.h"
+#include "reader/QvAtomPool.h"
+#include "reader/QvNameTable.h"
+#include "reader/QvNode.h"
+#include "reader/QvNodeClass.h"
+#include "reader/QvPointerList.h"
+#include "reader/QvSceneInput.h"
 
 unsigned long gWarn = 0;
 
 namespace lumeric {
 
-int translateScene(const char*, CReportErrorView* view, const char*, char*, const OutputOverride*) {
-  theContext.setView(view);
-  return 1;
+namespace {
+
+constexpr char kDefaultOutputName[] = "output.wrl";
+constexpr size_t kMaxJoinedPath = 511;
+
+bool sceneMayChooseOutput = true;
+
+// Opens the input as given, else once more under `directory`.
+FILE* openInput(const char* inputPath, const char* directory, int& errorNumber) {
+  errno = 0;
+  FILE* file = std::fopen(inputPath, "r");
+  errorNumber = errno;
+  if (file != nullptr || directory == nullptr) return file;
+  std::string joined = std::string(directory) + inputPath;
+  if (joined.size() > kMaxJoinedPath) return nullptr;
+  errno = 0;
+  file = std::fopen(joined.c_str(), "r");
+  if (file == nullptr) errorNumber = errno;
+  return file;
 }
 
-int checkScene(const char*, CReportErrorView* view, const char*, const char*) {
-  theContext.setView(view);
-  return 1;
+void reportOpenFailure(const char* inputPath, const char* directory, int errorNumber) {
+  theContext.reportInFile("Could not open %s for reading - Error # %d", inputPath, errorNumber);
+  if (directory == nullptr) theContext.reportInFile("Path name is NULL");
 }
 
-bool outputMayBeChosenByScene() { return true; }
+// Reads the scene's root node with the input on the file stack.
+QvNode* readRoot(QvSceneInput& input, const char* inputPath) {
+  QvNode* root = nullptr;
+  if (theContext.pushFile(inputPath)) {
+    readScene(&input, root);
+    theContext.popFile();
+  }
+  return root;
+}
 
-void endOfRunCleanUp() {}
+// Closes the output file of the run: "Output file not closed" when that
+// fails.  A stream the caller gave is only flushed.
+void closeOutput(const OutputOverride* output) {
+  if (outputFile == nullptr) return;
+  if (output != nullptr && output->stream == outputFile) {
+    std::fflush(outputFile);
+  } else if (std::fclose(outputFile) != 0) {
+    theContext.reportInFile("Output file not closed");
+  }
+  outputFile = nullptr;
+}
+
+// Chooses and opens the output; returns its name.
+const char* openOutput(const OutputOverride* output) {
+  if (output != nullptr && output->stream != nullptr) {
+    outputFile = output->stream;
+    return output->path != nullptr ? output->path : "-";
+  }
+  if (output != nullptr && output->path != nullptr) {
+    errno = 0;
+    outputFile = std::fopen(output->path, "w+");
+    if (outputFile == nullptr) {
+      theContext.reportInFile("Could not open %s for writing - Error # %d", output->path, errno);
+    }
+    return output->path;
+  }
+  if (outputFile == nullptr) {
+    outputFile = std::fopen(kDefaultOutputName, "w+");
+    return kDefaultOutputName;
+  }
+  return outputFileName;
+}
+
+void copyName(char* target, const char* name) {
+  if (target == nullptr) return;
+  std::strncpy(target, name, kOutputNameSize - 1);
+  target[kOutputNameSize - 1] = '\0';
+}
+
+// What both entry points do: open, read, then `useRoot` on the root, then
+// clean up.  Returns the entry point's result.
+template <typename UseRoot>
+int runTranslation(const char* inputPath, CReportErrorView* view, const char* directory,
+                   const OutputOverride* output, UseRoot useRoot) {
+  theContext.setView(view);
+  if (inputPath == nullptr) inputPath = "";
+  int errorNumber = 0;
+  FILE* inputFile = openInput(inputPath, directory, errorNumber);
+  if (inputFile == nullptr) {
+    reportOpenFailure(inputPath, directory, errorNumber);
+    closeOutput(output);
+    return 0;
+  }
+  if (nameRegistry == nullptr) nameRegistry = new QvNameTable();
+  int result = 0;
+  {
+    QvSceneInput input;
+    input.setFile(inputFile);
+    currentInput = &input;
+    QvNode* root = readRoot(input, inputPath);
+    if (root == nullptr) {
+      result = 1;
+    } else {
+      QvNodeRef hold(root);
+      useRoot(root);
+    }
+    currentInput = nullptr;
+    endOfRunCleanUp();
+  }
+  std::fclose(inputFile);
+  closeOutput(output);
+  return result;
+}
+
+template <typename Body>
+int guarded(Body body) {
+  // Nothing thrown may cross the library's boundary; the only exception the
+  // library can meet is exhausted memory.
+  try {
+    return body();
+  } catch (const std::exception&) {
+    theContext.reportInFile("Out of memory");
+  } catch (...) {
+    theContext.reportInFile("Internal error");
+  }
+  currentInput = nullptr;
+  theContext.clearNodes();
+  theContext.fileDepth = -1;
+  theContext.indentLevel = 0;
+  return 0;
+}
+
+}  // namespace
+
+bool outputMayBeChosenByScene() { return sceneMayChooseOutput; }
+
+void endOfRunCleanUp() {
+  if (nameRegistry != nullptr) {
+    nameRegistry->forEachValue([](void* list) { delete static_cast<QvPointerList*>(list); });
+    nameRegistry->clear();
+    delete nameRegistry;
+    nameRegistry = nullptr;
+  }
+  QvAtomPool::freePool();
+  QvNodeClass::destroyAllTables();
+  freeAllTerms();
+}
+
+int translateScene(const char* inputPath, CReportErrorView* view, const char* directory, char* outputNameOut,
+                   const OutputOverride* output) {
+  return guarded([&] {
+    outputFile = nullptr;
+    outputFileName[0] = '\0';
+    extensionsEnabled = true;
+    sceneMayChooseOutput = output == nullptr;
+    int result = runTranslation(inputPath, view, directory, output, [&](QvNode* root) {
+      copyName(outputNameOut, openOutput(output));
+      if (outputFile == nullptr) return;
+      root->evaluate(nullptr, false);
+      root->bindParents();
+      std::fputs("#VRML V1.0 ascii\n\n", outputFile);
+      std::fprintf(outputFile, "#Generated by VRMLLumeric from %s\n\n", inputPath);
+      root->write(outputFile);
+    });
+    sceneMayChooseOutput = true;
+    return result;
+  });
+}
+
+int checkScene(const char* inputPath, CReportErrorView* view, const char* directory, const char* fileType) {
+  return guarded([&] {
+    outputFile = nullptr;
+    extensionsEnabled = fileType != nullptr && strcasecmp(fileType, "vlm") == 0;
+    sceneMayChooseOutput = true;
+    return runTranslation(inputPath, view, directory, nullptr, [](QvNode* root) {
+      root->evaluate(nullptr, false);
+      root->bindParents();
+      root->check();
+    });
+  });
+}
 
 }  // namespace lumeric
 

@@ -59,22 +59,24 @@ struct QvSceneInput::State {
   bool lastReadFailed = false;
 };
 
+void QvSceneInput::StateDeleter::operator()(State* state) const { delete state; }
+
 QvSceneInput::QvSceneInput() : defTable_(QvNameTable::kDefaultBuckets) { setFile(stdin); }
 
 QvSceneInput::~QvSceneInput() = default;
 
 void QvSceneInput::setFile(FILE* file) {
-  state_ = std::make_unique<State>();
+  state_.reset(new State());
   state_->file = file;
 }
 
-std::unique_ptr<QvSceneInput::State> QvSceneInput::saveState() {
-  std::unique_ptr<State> saved = std::move(state_);
-  state_ = std::make_unique<State>();
+QvSceneInput::SavedState QvSceneInput::saveState() {
+  SavedState saved = std::move(state_);
+  state_.reset(new State());
   return saved;
 }
 
-void QvSceneInput::restoreState(std::unique_ptr<State> state) {
+void QvSceneInput::restoreState(SavedState state) {
   if (state != nullptr) state_ = std::move(state);
 }
 

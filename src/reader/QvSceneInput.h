@@ -37,6 +37,10 @@ class QvSceneInput {
 
   // The reading state that an INCLUDE saves around the included file.
   struct State;
+  struct StateDeleter {
+    void operator()(State* state) const;
+  };
+  using SavedState = std::unique_ptr<State, StateDeleter>;
 
   QvSceneInput();
   ~QvSceneInput();
@@ -46,8 +50,8 @@ class QvSceneInput {
   // Starts reading `file` (not owned): line 1, header not yet checked.
   void setFile(FILE* file);
   // Moves the reading state out (the input is left without a file) and back.
-  std::unique_ptr<State> saveState();
-  void restoreState(std::unique_ptr<State> state);
+  SavedState saveState();
+  void restoreState(SavedState state);
 
   // The next character; false (and c = kEndOfFile) at the end of the file
   // or when the header check fails.
@@ -89,7 +93,7 @@ class QvSceneInput {
   void unreadRaw();
   bool readDigits(std::string& digits, bool allowSign);
 
-  std::unique_ptr<State> state_;
+  SavedState state_;
   QvNameTable defTable_;
 };
 

@@ -1,2 +1,3 @@
 set(LUMERIC_CLI_TESTS
+  cli/CommandLineTest.cpp
 )

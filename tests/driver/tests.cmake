@@ -1,2 +1,3 @@
 set(LUMERIC_DRIVER_TESTS
+  driver/QvContextTest.cpp
 )

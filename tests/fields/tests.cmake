@@ -1,2 +1,6 @@
 set(LUMERIC_FIELD_TESTS
+  fields/FieldFixture.cpp
+  fields/FieldWriteTest.cpp
+  fields/FieldExchangeTest.cpp
+  fields/FieldCopyTest.cpp
 )

@@ -1,2 +1,6 @@
 set(LUMERIC_READER_TESTS
+  reader/AtomsAndTablesTest.cpp
+  reader/FieldExpressionTest.cpp
+  reader/HostileSceneTest.cpp
+  reader/QvSceneInputTest.cpp
 )

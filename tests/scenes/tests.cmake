@@ -1,2 +1,3 @@
 set(LUMERIC_SCENE_TESTS
+  scenes/SceneTest.cpp
 )

@@ -1,0 +1,14 @@
+#include "nodes/QvCube.h"
+
+#include "nodes/QvFieldRegistrar.h"
+
+namespace lumeric {
+
+QvCube::QvCube() {
+  QvFieldRegistrar fields(this, nodeClass());
+  fields.add("width", width).setDefault(2);
+  fields.add("height", height).setDefault(2);
+  fields.add("depth", depth).setDefault(2);
+}
+
+}  // namespace lumeric

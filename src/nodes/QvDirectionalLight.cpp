@@ -1,0 +1,15 @@
+#include "nodes/QvDirectionalLight.h"
+
+#include "nodes/QvFieldRegistrar.h"
+
+namespace lumeric {
+
+QvDirectionalLight::QvDirectionalLight() {
+  QvFieldRegistrar fields(this, nodeClass());
+  fields.add("on", on).setDefault(true);
+  fields.add("intensity", intensity).setDefault(1);
+  fields.add("color", color).setDefault(1, 1, 1);
+  fields.add("direction", direction).setDefault(0, 0, -1);
+}
+
+}  // namespace lumeric

@@ -1,0 +1,7 @@
+#include "nodes/QvGroup.h"
+
+namespace lumeric {
+
+QvGroup::QvGroup() { nodeClass().beginInstance(); }
+
+}  // namespace lumeric

@@ -1,0 +1,13 @@
+#include "nodes/QvLOD.h"
+
+#include "nodes/QvFieldRegistrar.h"
+
+namespace lumeric {
+
+QvLOD::QvLOD() {
+  QvFieldRegistrar fields(this, nodeClass());
+  fields.add("range", range).setNum(0);
+  fields.add("center", center).setDefault(0, 0, 0);
+}
+
+}  // namespace lumeric

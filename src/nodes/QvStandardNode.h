@@ -1,0 +1,74 @@
+// What every standard VRML 1.0 node class shares: its class table, its
+// copy, its frame when written and its check.  A class states only its
+// fields with their defaults (in its constructor), its name and, for
+// groups, when an empty line separates its fields from its children.
+#ifndef LUMERIC_NODES_QVSTANDARDNODE_H
+#define LUMERIC_NODES_QVSTANDARDNODE_H
+
+#include <type_traits>
+
+#include "driver/QvContext.h"
+#include "reader/NodeFrame.h"
+#include "reader/QvGroupNode.h"
+#include "reader/QvNodeClass.h"
+
+namespace lumeric {
+
+// When a group writes an empty line between its fields and its children.
+enum class BlankLine { kNever, kIfChildren, kAlways };
+
+template <class Derived, class Base = QvNode>
+class QvStandardNode : public Base {
+  static constexpr bool kIsGroup = std::is_base_of<QvGroupNode, Base>::value;
+
+ public:
+  QvFieldTable* getFieldTable() override { return nodeClass().table(); }
+  const char* getClassName() const override { return Derived::kClassName; }
+
+  void evaluate(QvGroupNode* parent, bool copy) override {
+    if constexpr (kIsGroup) {
+      QvGroupNode::evaluate(parent, copy);
+    } else {
+      this->evaluateLeaf(parent, copy);
+    }
+  }
+
+  void write(FILE* out) override {
+    writeOpeningLine(out, this, Derived::kClassName);
+    this->parent = theContext.topNode();
+    if constexpr (kIsGroup) theContext.pushNode(this);
+    ++theContext.indentLevel;
+    writeFieldLines(out, this);
+    if constexpr (kIsGroup) {
+      BlankLine blank = Derived::kBlankLine;
+      if (blank == BlankLine::kAlways || (blank == BlankLine::kIfChildren && this->getNumChildren() > 0)) {
+        std::fputs("\n", out);
+      }
+      this->writeChildren(out);
+    }
+    --theContext.indentLevel;
+    if constexpr (kIsGroup) theContext.popNode();
+    writeClosingLine(out);
+  }
+
+  void check() override {
+    if constexpr (kIsGroup) {
+      QvGroupNode::check();
+    } else {
+      this->checkFields();
+    }
+  }
+
+  // The class's shared information, its field table included.
+  static QvNodeClass& nodeClass() {
+    static QvNodeClass info(Derived::kClassName);
+    return info;
+  }
+
+ protected:
+  QvNode* newInstance() const override { return new Derived(); }
+};
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_NODES_QVSTANDARDNODE_H

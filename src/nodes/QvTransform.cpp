@@ -1,0 +1,16 @@
+#include "nodes/QvTransform.h"
+
+#include "nodes/QvFieldRegistrar.h"
+
+namespace lumeric {
+
+QvTransform::QvTransform() {
+  QvFieldRegistrar fields(this, nodeClass());
+  fields.add("translation", translation).setDefault(0, 0, 0);
+  fields.add("rotation", rotation).setDefault(0, 0, 1, 0);
+  fields.add("scaleFactor", scaleFactor).setDefault(1, 1, 1);
+  fields.add("scaleOrientation", scaleOrientation).setDefault(0, 0, 1, 0);
+  fields.add("center", center).setDefault(0, 0, 0);
+}
+
+}  // namespace lumeric

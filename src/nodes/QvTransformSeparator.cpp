@@ -1,0 +1,7 @@
+#include "nodes/QvTransformSeparator.h"
+
+namespace lumeric {
+
+QvTransformSeparator::QvTransformSeparator() { nodeClass().beginInstance(); }
+
+}  // namespace lumeric

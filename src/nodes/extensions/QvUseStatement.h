@@ -1,0 +1,26 @@
+// USE: writes a USE reference to a DEF name into the output.  The name is
+// an expression, computed when the statement is written.
+#ifndef LUMERIC_NODES_EXTENSIONS_QVUSESTATEMENT_H
+#define LUMERIC_NODES_EXTENSIONS_QVUSESTATEMENT_H
+
+#include "nodes/extensions/QvStatementNode.h"
+
+namespace lumeric {
+
+class QvUseStatement : public QvStatementNode {
+ public:
+  // "use " and the name expression are shorter than this.
+  static constexpr int kMaxText = 256;
+
+  const char* getClassName() const override { return "USE"; }
+  void evaluate(QvGroupNode* parent, bool copy) override;
+  void write(FILE* out) override;
+  bool readInstance(QvSceneInput* in) override;
+
+ private:
+  FieldExpression expression_;
+};
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_NODES_EXTENSIONS_QVUSESTATEMENT_H

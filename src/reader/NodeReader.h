@@ -1,0 +1,35 @@
+// Reading nodes and statements: the optional DEF or VARNAME prefix, the
+// type name, the braces and the body.  The first read error ends reading;
+// every node read before it stays in the tree.
+#ifndef LUMERIC_READER_NODEREADER_H
+#define LUMERIC_READER_NODEREADER_H
+
+#include "reader/QvAtom.h"
+
+namespace lumeric {
+
+class QvNode;
+class QvSceneInput;
+
+// How deep nodes may be nested in a scene (included files count their
+// INCLUDE statement as a level).  It equals the depth of the context's node
+// stack, so every pass over the tree finds each node's enclosing nodes.
+constexpr int kMaxNodeNesting = 63;
+
+// Reads the root node of a file; only the first node is read.
+bool readScene(QvSceneInput* in, QvNode*& root);
+// Reads one node or statement.  `node` is null when the next thing is not a
+// node (a closing brace, a lower-case word, NULL, the end of the file).  On
+// failure `node` may hold the node that failed, with no reference taken:
+// pass it to discardNode.
+bool readNode(QvSceneInput* in, QvNode*& node);
+// Destroys a node that nobody took a reference on.
+void discardNode(QvNode* node);
+// The node factory with the unknown-class rule; reports unknown classes.
+QvNode* createNode(QvSceneInput* in, QvAtom typeName, int line);
+// Skips to the closing brace of the current node (counting nested braces).
+void skipToClosingBrace(QvSceneInput* in);
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_READER_NODEREADER_H

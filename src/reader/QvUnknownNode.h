@@ -1,0 +1,32 @@
+// A node whose class the reader does not know but whose body declares its
+// fields ("fields [ ... ]").  It keeps its class name and its own field
+// table and is written back in the same form, so that a VRML 1.0 reader
+// can read it again.
+#ifndef LUMERIC_READER_QVUNKNOWNNODE_H
+#define LUMERIC_READER_QVUNKNOWNNODE_H
+
+#include <memory>
+#include <string>
+
+#include "reader/QvFieldTable.h"
+#include "reader/QvGroupNode.h"
+
+namespace lumeric {
+
+class QvUnknownNode : public QvGroupNode {
+ public:
+  explicit QvUnknownNode(QvAtom className);
+
+  QvFieldTable* getFieldTable() override { return &fields_; }
+  const char* getClassName() const override { return className_.c_str(); }
+  void evaluate(QvGroupNode* parent, bool copy) override;
+  void write(FILE* out) override;
+
+ private:
+  std::string className_;
+  QvFieldTable fields_{true};
+};
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_READER_QVUNKNOWNNODE_H

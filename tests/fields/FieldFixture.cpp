@@ -1,0 +1,125 @@
+#include "fields/FieldFixture.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "driver/LibraryState.h"
+#include "driver/QvContext.h"
+#include "expr/Evaluation.h"
+#include "reader/QvAtom.h"
+#include "reader/QvFieldTable.h"
+#include "reader/QvSceneInput.h"
+
+namespace lumeric {
+
+namespace {
+
+std::string numbers(const double* values, int count, int columns) {
+  std::string text = "(";
+  for (int k = 0; k < count; ++k) {
+    if (k > 0) text += (k % columns == 0) ? ";" : ",";
+    char number[32];
+    std::snprintf(number, sizeof number, "%g", values[k]);
+    text += number;
+  }
+  return text + ")";
+}
+
+}  // namespace
+
+std::string describe(const Term* term) {
+  if (term == nullptr) return "none";
+  switch (term->kind) {
+    case kStringTerm: {
+      const char* text = static_cast<const StringTerm*>(term)->text;
+      return std::string("string \"") + (text != nullptr ? text : "(null)") + "\"";
+    }
+    case kScalarTerm: {
+      char number[32];
+      std::snprintf(number, sizeof number, "%g", static_cast<const ScalarTerm*>(term)->value);
+      return std::string("scalar ") + number;
+    }
+    case kVectorTerm: {
+      const VectorTerm* v = static_cast<const VectorTerm*>(term);
+      return "vector " + numbers(v->elements, v->length, v->length + 1);
+    }
+    case kMatrixTerm: {
+      const MatrixTerm* m = static_cast<const MatrixTerm*>(term);
+      return "matrix " + numbers(m->elements, m->rows * m->cols, m->cols);
+    }
+    default:
+      return "kind " + std::to_string(term->kind);
+  }
+}
+
+void FieldFixture::SetUp() {
+  theContext.setView(&view_);
+  theContext.indentLevel = 0;
+  precisionQuantum = 0.0001;
+}
+
+void FieldFixture::TearDown() {
+  theContext.setView(nullptr);
+  theContext.indentLevel = 0;
+  precisionQuantum = 0.0001;
+  freeAllTerms();
+}
+
+std::unique_ptr<QvField> FieldFixture::make(const char* typeName) {
+  QvField* field = createField(QvAtom(typeName));
+  EXPECT_NE(field, nullptr) << typeName;
+  return std::unique_ptr<QvField>(field);
+}
+
+bool FieldFixture::read(QvField& field, const std::string& value) {
+  std::string text = "#VRML V1.0 ascii\n" + value + "\n";
+  FILE* file = fmemopen(const_cast<char*>(text.data()), text.size(), "r");
+  if (file == nullptr) return false;
+  QvSceneInput input;
+  input.setFile(file);
+  bool ok = field.readValue(&input);
+  std::fclose(file);
+  return ok;
+}
+
+std::unique_ptr<QvField> FieldFixture::holding(const char* typeName, const std::string& value) {
+  std::unique_ptr<QvField> field = make(typeName);
+  if (field != nullptr) EXPECT_TRUE(read(*field, value)) << typeName << " " << value;
+  return field;
+}
+
+std::string FieldFixture::written(QvField& field) {
+  char* buffer = nullptr;
+  size_t size = 0;
+  FILE* out = open_memstream(&buffer, &size);
+  field.write(out);
+  std::fclose(out);
+  std::string text(buffer, size);
+  std::free(buffer);
+  return text;
+}
+
+Messages FieldFixture::takeMessages() {
+  Messages texts;
+  for (const RecordingView::Message& m : view_.messages()) {
+    EXPECT_EQ(m.flag, 1) << m.text;
+    texts.push_back(m.text);
+  }
+  view_.clear();
+  return texts;
+}
+
+FieldExpression* FieldFixture::at() {
+  expressions_.emplace_back();
+  expressions_.back().line = kAtLine;
+  return &expressions_.back();
+}
+
+Term* FieldFixture::term(const std::string& text) {
+  expressions_.emplace_back();
+  FieldExpression* e = &expressions_.back();
+  e->setText(text.c_str());
+  return evaluateTerm(e);
+}
+
+}  // namespace lumeric
