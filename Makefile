@@ -5,7 +5,7 @@
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 RELEASE_DIR := build/release
 TEST_DIR := build/test
-DEMO_SCENE ?= examples/spiral.vlm
+DEMO_SCENE ?= examples/expressions.vlm
 
 .PHONY: all deps release demo test bench clean
 
