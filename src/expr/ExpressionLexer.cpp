@@ -233,7 +233,9 @@ double ExpressionLexer::scanRadixNumber(const char* digits, int base) {
 }
 
 // Digits, an optional fraction, an optional exponent.  An exponent letter
-// without digits makes the number 0, with what was read consumed.
+// without digits makes the number 0, with what was read consumed.  A number
+// of any length is converted whole, so its value is the one the user wrote
+// rather than that of a cut-off prefix.
 double ExpressionLexer::scanDecimalNumber(const char* start) {
   const char* p = start;
   while (isDigit(*p)) ++p;
