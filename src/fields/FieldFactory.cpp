@@ -1,5 +1,5 @@
-// The field factory: a new field from its type name, for the fields that
-// "fields" and "field" specifications declare.
+// The field factory: a new field from its type name, for the fields a node
+// declares in the file with "fields [ ... ]" or "field".
 #include <cstring>
 
 #include "fields/QvMFColor.h"

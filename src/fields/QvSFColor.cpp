@@ -49,7 +49,9 @@ void QvSFColor::write(FILE* out) {
   } else {
     componentNumbers(numbers);
   }
-  OutputText(out).character(' ').number(numbers[0]).character(' ').number(numbers[1]).character(' ').number(numbers[2]).character('\n');
+  OutputText text(out);
+  for (int k = 0; k < 3; ++k) text.character(' ').number(numbers[k]);
+  text.character('\n');
 }
 
 QvField* QvSFColor::clone() {
