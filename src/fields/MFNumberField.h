@@ -8,6 +8,7 @@
 //   kCannotSet (the whole list), kCannotSetEntry (a call with a second
 //     index), kCannotAppend, kBounds (a format with the index),
 //   static void writeItem(OutputText&, double): one number as written.
+// The message texts are used exactly as they stand, trailing blanks included.
 #ifndef LUMERIC_FIELDS_MFNUMBERFIELD_H
 #define LUMERIC_FIELDS_MFNUMBERFIELD_H
 

@@ -15,6 +15,7 @@
 //   kCannotSet, kCannotAppend,
 //   kBoundsRow ("[%d]"), kBoundsEntry ("[%d][%d]"): the expanded value,
 //   kBoundsElement ("[%d][*]"): a plain list (unused with kAlwaysExpanded).
+// The message texts are used exactly as they stand, trailing blanks included.
 #ifndef LUMERIC_FIELDS_MFVECTORFIELD_H
 #define LUMERIC_FIELDS_MFVECTORFIELD_H
 
