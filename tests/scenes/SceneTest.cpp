@@ -1,7 +1,8 @@
 // Golden scene tests: every scene file in this directory is translated by
 // the lumeric command, and its exit status, messages and output are compared
 // with the expectations kept beside it in NAME.expected.  Optional
-// arguments come from NAME.args.  refresh.sh rewrites the expectations.
+// arguments come from NAME.args.  Every output must also load in the
+// independent VRML 1.0 reader.  refresh.sh rewrites the expectations.
 #include <dirent.h>
 
 #include <gtest/gtest.h>
@@ -12,6 +13,7 @@
 #include <vector>
 
 #include "support/SceneRunner.h"
+#include "tools/IndependentReader.h"
 
 namespace lumeric {
 namespace {
@@ -72,6 +74,11 @@ TEST_P(SceneTest, MatchesItsExpectation) {
   ASSERT_FALSE(expected.empty()) << "no expectation for " << name << "; run tests/scenes/refresh.sh";
   EXPECT_EQ(describe(run), expected);
   EXPECT_EQ(run.err.find("Sanitizer"), std::string::npos) << run.err;
+  // What we write must be VRML 1.0 that another reader loads, also when
+  // reading stopped at an error and only part of the scene was written.
+  if (!run.out.empty()) {
+    EXPECT_TRUE(LoadsInIndependentReader(run.out));
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Scenes, SceneTest, ::testing::ValuesIn(discoverScenes()),
