@@ -1,7 +1,5 @@
 #include "reader/NodeFactory.h"
 
-#include <cstring>
-
 #include "nodes/QvAsciiText.h"
 #include "nodes/QvCone.h"
 #include "nodes/QvCoordinate3.h"
@@ -37,68 +35,54 @@
 #include "nodes/QvTranslation.h"
 #include "nodes/QvWWWAnchor.h"
 #include "nodes/QvWWWInline.h"
+#include "reader/NodeClassTable.h"
 #include "nodes/QvGroup.h"
 
 namespace lumeric {
 
 namespace {
 
-template <class Node>
-QvNode* make() {
-  return new Node();
-}
-
-struct StandardClass {
-  const char* name;
-  QvNode* (*create)();
-};
-
-const StandardClass kStandardClasses[] = {
-    {"AsciiText", make<QvAsciiText>},
-    {"Cone", make<QvCone>},
-    {"Coordinate3", make<QvCoordinate3>},
-    {"Cube", make<QvCube>},
-    {"Cylinder", make<QvCylinder>},
-    {"DirectionalLight", make<QvDirectionalLight>},
-    {"FontStyle", make<QvFontStyle>},
-    {"Group", make<QvGroup>},
-    {"IndexedFaceSet", make<QvIndexedFaceSet>},
-    {"IndexedLineSet", make<QvIndexedLineSet>},
-    {"Info", make<QvInfo>},
-    {"LOD", make<QvLOD>},
-    {"Material", make<QvMaterial>},
-    {"MaterialBinding", make<QvMaterialBinding>},
-    {"MatrixTransform", make<QvMatrixTransform>},
-    {"Normal", make<QvNormal>},
-    {"NormalBinding", make<QvNormalBinding>},
-    {"OrthographicCamera", make<QvOrthographicCamera>},
-    {"PerspectiveCamera", make<QvPerspectiveCamera>},
-    {"PointLight", make<QvPointLight>},
-    {"PointSet", make<QvPointSet>},
-    {"Rotation", make<QvRotation>},
-    {"Scale", make<QvScale>},
-    {"Separator", make<QvSeparator>},
-    {"ShapeHints", make<QvShapeHints>},
-    {"Sphere", make<QvSphere>},
-    {"SpotLight", make<QvSpotLight>},
-    {"Switch", make<QvSwitch>},
-    {"Texture2", make<QvTexture2>},
-    {"Texture2Transform", make<QvTexture2Transform>},
-    {"TextureCoordinate2", make<QvTextureCoordinate2>},
-    {"Transform", make<QvTransform>},
-    {"TransformSeparator", make<QvTransformSeparator>},
-    {"Translation", make<QvTranslation>},
-    {"WWWAnchor", make<QvWWWAnchor>},
-    {"WWWInline", make<QvWWWInline>},
+const NodeClassEntry kStandardClasses[] = {
+    {"AsciiText", createNodeOf<QvAsciiText>},
+    {"Cone", createNodeOf<QvCone>},
+    {"Coordinate3", createNodeOf<QvCoordinate3>},
+    {"Cube", createNodeOf<QvCube>},
+    {"Cylinder", createNodeOf<QvCylinder>},
+    {"DirectionalLight", createNodeOf<QvDirectionalLight>},
+    {"FontStyle", createNodeOf<QvFontStyle>},
+    {"Group", createNodeOf<QvGroup>},
+    {"IndexedFaceSet", createNodeOf<QvIndexedFaceSet>},
+    {"IndexedLineSet", createNodeOf<QvIndexedLineSet>},
+    {"Info", createNodeOf<QvInfo>},
+    {"LOD", createNodeOf<QvLOD>},
+    {"Material", createNodeOf<QvMaterial>},
+    {"MaterialBinding", createNodeOf<QvMaterialBinding>},
+    {"MatrixTransform", createNodeOf<QvMatrixTransform>},
+    {"Normal", createNodeOf<QvNormal>},
+    {"NormalBinding", createNodeOf<QvNormalBinding>},
+    {"OrthographicCamera", createNodeOf<QvOrthographicCamera>},
+    {"PerspectiveCamera", createNodeOf<QvPerspectiveCamera>},
+    {"PointLight", createNodeOf<QvPointLight>},
+    {"PointSet", createNodeOf<QvPointSet>},
+    {"Rotation", createNodeOf<QvRotation>},
+    {"Scale", createNodeOf<QvScale>},
+    {"Separator", createNodeOf<QvSeparator>},
+    {"ShapeHints", createNodeOf<QvShapeHints>},
+    {"Sphere", createNodeOf<QvSphere>},
+    {"SpotLight", createNodeOf<QvSpotLight>},
+    {"Switch", createNodeOf<QvSwitch>},
+    {"Texture2", createNodeOf<QvTexture2>},
+    {"Texture2Transform", createNodeOf<QvTexture2Transform>},
+    {"TextureCoordinate2", createNodeOf<QvTextureCoordinate2>},
+    {"Transform", createNodeOf<QvTransform>},
+    {"TransformSeparator", createNodeOf<QvTransformSeparator>},
+    {"Translation", createNodeOf<QvTranslation>},
+    {"WWWAnchor", createNodeOf<QvWWWAnchor>},
+    {"WWWInline", createNodeOf<QvWWWInline>},
 };
 
 }  // namespace
 
-QvNode* createStandardNode(const char* className) {
-  for (const StandardClass& entry : kStandardClasses) {
-    if (std::strcmp(entry.name, className) == 0) return entry.create();
-  }
-  return nullptr;
-}
+QvNode* createStandardNode(const char* className) { return createFromTable(kStandardClasses, className); }
 
 }  // namespace lumeric

@@ -187,6 +187,17 @@ QvNode* createNode(QvSceneInput* in, QvAtom typeName, int line) {
   return node;
 }
 
+bool refuseFieldSpecification(QvSceneInput* in) {
+  QvAtom word;
+  in->readName(word, QvSceneInput::kLowerName);
+  if (named(word, "fields")) {
+    theContext.readError(in, "Cannot use a fields specifications with this node");
+    return false;
+  }
+  in->putBackWord(word.text());
+  return true;
+}
+
 void skipToClosingBrace(QvSceneInput* in) {
   int depth = 1;
   char c;

@@ -27,6 +27,10 @@ bool readNode(QvSceneInput* in, QvNode*& node);
 void discardNode(QvNode* node);
 // The node factory with the unknown-class rule; reports unknown classes.
 QvNode* createNode(QvSceneInput* in, QvAtom typeName, int line);
+// After a statement keyword: the next word must not be "fields" (reports
+// "Cannot use a fields specifications with this node" and fails); any other
+// word is given back.
+bool refuseFieldSpecification(QvSceneInput* in);
 // Skips to the closing brace of the current node (counting nested braces).
 void skipToClosingBrace(QvSceneInput* in);
 

@@ -1,7 +1,6 @@
 #include "reader/QvInclude.h"
 
 #include <cstdio>
-#include <cstring>
 
 #include "driver/QvContext.h"
 #include "reader/FieldExpression.h"
@@ -11,13 +10,7 @@
 namespace lumeric {
 
 bool QvInclude::readInstance(QvSceneInput* in) {
-  QvAtom word;
-  in->readName(word, QvSceneInput::kLowerName);
-  if (std::strcmp(word.text(), "fields") == 0) {
-    theContext.readError(in, "Cannot use a fields specifications with this node");
-    return false;
-  }
-  in->putBackWord(word.text());
+  if (!refuseFieldSpecification(in)) return false;
   FieldExpression nameText;
   if (!in->readValueText(nameText, this)) nameText.setText("");
   QvNode* root = includeFile(nameText, in);

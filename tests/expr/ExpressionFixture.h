@@ -14,12 +14,9 @@
 #include "expr/Term.h"
 #include "reader/FieldExpression.h"
 #include "support/RecordingView.h"
+#include "support/TermText.h"
 
 namespace lumeric {
-
-// A term as short text: "scalar 7", "vector (1,2)", "matrix (1,2;3,4)",
-// "string \"a\"", or "none".
-std::string describeTerm(const Term* term);
 
 class ExpressionFixture : public ::testing::Test {
  protected:

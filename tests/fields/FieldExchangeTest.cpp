@@ -169,7 +169,7 @@ struct GetCase {
   const char* value;
   int i;
   int j;
-  const char* result;  // describe() of the term
+  const char* result;  // describeTerm() of the term
   Messages messages;
 };
 
@@ -184,7 +184,7 @@ TEST_P(FieldGetTest, GivesTheSelectedValue) {
   std::unique_ptr<QvField> field = holding(c.type, c.value);
   Term* result = field->GetLumericValue(c.i, c.j, at());
   EXPECT_EQ(takeMessages(), c.messages);
-  EXPECT_EQ(describe(result), c.result);
+  EXPECT_EQ(describeTerm(result), c.result);
 }
 
 const GetCase kSingleGets[] = {
@@ -274,7 +274,7 @@ TEST_F(FieldFixture, AssignedNumbersKeepSixDigits) {
   std::unique_ptr<QvField> field = holding("SFVec3f", "0 0 0");
   field->SetLumericValue(term("3.14159265"), 0, kNone, at());
   field->SetLumericValue(term("1234567"), 1, kNone, at());
-  EXPECT_EQ(describe(field->GetLumericValue(kNone, kNone, at())), "vector (3.14159,1.23457e+06,0)");
+  EXPECT_EQ(describeTerm(field->GetLumericValue(kNone, kNone, at())), "vector (3.14159,1.23457e+06,0)");
   precisionQuantum = 0;
   EXPECT_EQ(written(*field), " 3.14159 1.23457e+06 0\n");
 }

@@ -16,14 +16,11 @@
 #include "reader/FieldExpression.h"
 #include "reader/QvField.h"
 #include "support/RecordingView.h"
+#include "support/TermText.h"
 
 namespace lumeric {
 
 using Messages = std::vector<std::string>;
-
-// A term as short text: "scalar 7", "vector (1,2)", "matrix (1,2;3,4)",
-// "string \"a\"" or "none".
-std::string describe(const Term* term);
 
 class FieldFixture : public ::testing::Test {
  protected:

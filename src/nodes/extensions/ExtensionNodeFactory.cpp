@@ -1,10 +1,9 @@
-#include <cstring>
-
 #include "nodes/extensions/QvAssignmentStatement.h"
 #include "nodes/extensions/QvOutputToStatement.h"
 #include "nodes/extensions/QvPrecisionStatement.h"
 #include "nodes/extensions/QvPrintStatement.h"
 #include "nodes/extensions/QvUseStatement.h"
+#include "reader/NodeClassTable.h"
 #include "reader/NodeFactory.h"
 #include "reader/QvInclude.h"
 
@@ -12,25 +11,15 @@ namespace lumeric {
 
 namespace {
 
-template <class Node>
-QvNode* make() {
-  return new Node();
-}
-
-struct NamedClass {
-  const char* name;
-  QvNode* (*create)();
-};
-
-const NamedClass kStatements[] = {
-    {"USE", make<QvUseStatement>},
-    {"SET", make<QvSetStatement>},
-    {"APPEND", make<QvAppendStatement>},
-    {"DECLARE", make<QvDeclareStatement>},
-    {"OUTPUT_TO", make<QvOutputToStatement>},
-    {"INCLUDE", make<QvInclude>},
-    {"PRECISION", make<QvPrecisionStatement>},
-    {"PRINT", make<QvPrintStatement>},
+const NodeClassEntry kStatements[] = {
+    {"USE", createNodeOf<QvUseStatement>},
+    {"SET", createNodeOf<QvSetStatement>},
+    {"APPEND", createNodeOf<QvAppendStatement>},
+    {"DECLARE", createNodeOf<QvDeclareStatement>},
+    {"OUTPUT_TO", createNodeOf<QvOutputToStatement>},
+    {"INCLUDE", createNodeOf<QvInclude>},
+    {"PRECISION", createNodeOf<QvPrecisionStatement>},
+    {"PRINT", createNodeOf<QvPrintStatement>},
 };
 
 }  // namespace
@@ -40,11 +29,6 @@ QvNode* createExtensionNode(const char*) {
   return nullptr;
 }
 
-QvNode* createStatement(const char* keyword) {
-  for (const NamedClass& entry : kStatements) {
-    if (std::strcmp(entry.name, keyword) == 0) return entry.create();
-  }
-  return nullptr;
-}
+QvNode* createStatement(const char* keyword) { return createFromTable(kStatements, keyword); }
 
 }  // namespace lumeric

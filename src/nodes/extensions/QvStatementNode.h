@@ -7,6 +7,7 @@
 #include <string>
 
 #include "reader/FieldExpression.h"
+#include "reader/NodeReader.h"
 #include "reader/QvNode.h"
 
 namespace lumeric {
@@ -21,10 +22,6 @@ class QvStatementNode : public QvNode {
  protected:
   QvStatementNode() { isBuiltIn = 0; }
 
-  // The word after a keyword must not be "fields": reports "Cannot use a
-  // fields specifications with this node" and fails; otherwise the word is
-  // given back.
-  static bool refuseFieldSpecification(QvSceneInput* in);
   // One value text, or an empty text at the end of the file.
   static std::string readWord(QvSceneInput* in);
   // Records the enclosing node, pushes this statement, runs `body`, pops.
