@@ -15,10 +15,10 @@ Term* QvSFBitMask::GetLumericValue(int, int, FieldExpression* at) {
   return nullptr;
 }
 
-// A value that no single entry holds lists every entry sharing at least one
-// bit with it, so a combined entry such as ALL appears with the flags it
-// covers; reading that text back can give a larger value, but no flag that
-// was set is lost.
+// A value that no single entry holds lists the entries whose flags it holds
+// entirely, so that reading the text back gives the same value: SIDES and
+// BOTTOM of a cylinder are written as those two, without the ALL that would
+// also bring TOP.  Entries without flags are never listed.
 void QvSFBitMask::write(FILE* out) {
   OutputText text(out);
   int entry = findValue(value);
@@ -29,7 +29,7 @@ void QvSFBitMask::write(FILE* out) {
   text.text(" ( ");
   bool first = true;
   for (int k = 0; k < numEnums; ++k) {
-    if ((enumValues[k] & value) == 0) continue;
+    if (enumValues[k] == 0 || (enumValues[k] & value) != enumValues[k]) continue;
     if (!first) text.text(" | ");
     text.text(enumNames[k].text());
     first = false;
