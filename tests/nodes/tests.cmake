@@ -1,2 +1,3 @@
 set(LUMERIC_NODE_TESTS
+  nodes/NodeCopyTest.cpp
 )
