@@ -8,11 +8,11 @@
 namespace lumeric {
 
 void writeOpeningLine(FILE* out, QvNode* node, const char* className) {
-  if (node->hasName()) {
-    // A computed name that gives no text still marks the node as named;
-    // it is written with an empty name rather than dropped silently.
-    const char* name = node->getName();
-    theContext.writeIndented(out, "DEF %s %s {\n", name != nullptr ? name : "", className);
+  // A computed name that gives no text (its expression has reported why)
+  // leaves the node unnamed rather than writing an empty DEF name.
+  const char* name = node->hasName() ? node->getName() : nullptr;
+  if (name != nullptr && name[0] != '\0') {
+    theContext.writeIndented(out, "DEF %s %s {\n", name, className);
   } else {
     theContext.writeIndented(out, "%s {\n", className);
   }

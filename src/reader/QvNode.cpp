@@ -36,14 +36,6 @@ bool QvNode::readInstance(QvSceneInput* in) {
 
 bool QvNode::hasName() const { return nameExpression != nullptr || !name.isEmpty(); }
 
-const char* QvNode::getName() {
-  if (nameExpression != nullptr) {
-    StringTerm* computed = evaluateName(nameExpression);
-    return computed != nullptr ? computed->text : nullptr;
-  }
-  return name.text();
-}
-
 namespace {
 
 // A legal name starts with a name character that is not a digit and goes
@@ -58,6 +50,15 @@ std::string repairName(const char* text) {
 }
 
 }  // namespace
+
+const char* QvNode::getName() {
+  if (nameExpression == nullptr) return name.text();
+  // A computed name is repaired like any name a node is given, so that the
+  // node and its copies carry the same legal name.
+  StringTerm* computed = evaluateName(nameExpression);
+  if (computed == nullptr || computed->text == nullptr) return nullptr;
+  return QvAtom(repairName(computed->text).c_str()).text();
+}
 
 void QvNode::setName(QvAtom newName, bool nameWasDefined) {
   if (!name.isEmpty()) {

@@ -134,3 +134,33 @@ TEST_F(NodeCopyTest, UnknownNodesCopyTheirDeclaredFields) {
 
 }  // namespace
 }  // namespace lumeric
+
+namespace lumeric {
+namespace {
+
+TEST_F(NodeCopyTest, NamesThatCannotBeNamesAreRepaired) {
+  PlainTestNode node;
+  struct {
+    const char* given;
+    const char* kept;
+  } cases[] = {{"1abc", "_1abc"}, {"a.b", "a_b"}, {"ok_name", "ok_name"}, {"+x", "__x"}, {"a b", "a_b"}};
+  for (const auto& c : cases) {
+    node.setName(QvAtom(c.given));
+    EXPECT_STREQ(node.getName(), c.kept) << c.given;
+  }
+  node.setName(QvAtom());
+  EXPECT_FALSE(node.hasName());
+}
+
+TEST_F(NodeCopyTest, ComputedNamesAreRepairedToo) {
+  QvNode* group = read("Group { VARNAME Row~`(1,2)` Cube { } }");
+  QvNode* cube = static_cast<QvGroupNode*>(group)->getChild(0);
+  EXPECT_STREQ(cube->getName(), "Row(1_2)");
+  QvGroupNode* copies = target();
+  cube->evaluate(copies, true);
+  EXPECT_STREQ(copies->getChild(0)->getName(), "Row(1_2)");
+  EXPECT_EQ(written(copies->getChild(0)).substr(0, 19), "DEF Row(1_2) Cube {");
+}
+
+}  // namespace
+}  // namespace lumeric
