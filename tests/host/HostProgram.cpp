@@ -1,6 +1,7 @@
 // A host program that knows lumeric only through its public header and its
-// shared library: it translates a scene, checks it, and reports what the
-// library posted.
+// shared library, as an authoring tool does.  It checks the results 0 and
+// 1, the messages it receives, CheckSyntax with both file types, and that
+// two runs in a row write the same scene.
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -19,40 +20,109 @@ class CollectingView : public CReportErrorView {
   std::vector<std::string> messages;
 };
 
-int fail(const char* what) {
-  std::fprintf(stderr, "host program: %s\n", what);
-  return 1;
+int failures = 0;
+
+void expect(bool ok, const char* what) {
+  if (!ok) {
+    std::fprintf(stderr, "host program: FAILED: %s\n", what);
+    ++failures;
+  }
+}
+
+std::string readAll(const char* path) {
+  std::string text;
+  if (FILE* file = std::fopen(path, "rb")) {
+    char buffer[4096];
+    size_t got;
+    while ((got = std::fread(buffer, 1, sizeof buffer, file)) > 0) text.append(buffer, got);
+    std::fclose(file);
+  }
+  return text;
+}
+
+void writeAll(const char* path, const char* text) {
+  if (FILE* file = std::fopen(path, "wb")) {
+    std::fputs(text, file);
+    std::fclose(file);
+  }
+}
+
+int translate(const char* path, CollectingView& view, char* outputName) {
+  std::vector<char> input(path, path + std::strlen(path) + 1);
+  char directory[] = "";
+  return ParseVRMLLumeric(input.data(), &view, directory, outputName);
+}
+
+int check(const char* path, const char* type, CollectingView& view) {
+  std::vector<char> input(path, path + std::strlen(path) + 1);
+  std::vector<char> fileType(type, type + std::strlen(type) + 1);
+  char directory[] = "";
+  return CheckSyntax(input.data(), &view, directory, fileType.data());
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 2) return fail("usage: lumeric_host_program SCENE");
-  CollectingView view;
+  if (argc != 2) {
+    std::fprintf(stderr, "usage: lumeric_host_program SCENE\n");
+    return 2;
+  }
   char outputName[256] = "";
-  char directory[] = "";
-  gWarn = 2;
-  int result = ParseVRMLLumeric(argv[1], &view, directory, outputName);
-  if (result != 0) return fail("ParseVRMLLumeric did not return 0");
-  if (std::strcmp(outputName, "output.wrl") != 0) return fail("the output name is not output.wrl");
-  FILE* output = std::fopen(outputName, "r");
-  if (output == nullptr) return fail("no output.wrl was written");
-  char header[64] = "";
-  bool headerRead = std::fgets(header, sizeof header, output) != nullptr;
-  std::fclose(output);
-  if (!headerRead || std::strcmp(header, "#VRML V1.0 ascii\n") != 0) return fail("the output has no VRML header");
 
-  char vlm[] = "VLM";
-  CollectingView checkView;
-  if (CheckSyntax(argv[1], &checkView, directory, vlm) != 0) return fail("CheckSyntax did not return 0");
+  // A scene translates to output.wrl with result 0, twice the same.
+  CollectingView first;
+  expect(translate(argv[1], first, outputName) == 0, "a good scene gives 0");
+  expect(std::strcmp(outputName, "output.wrl") == 0, "the output is named output.wrl");
+  std::string once = readAll("output.wrl");
+  expect(once.compare(0, 18, "#VRML V1.0 ascii\n\n") == 0, "the output starts with the VRML header");
+  CollectingView second;
+  translate(argv[1], second, outputName);
+  expect(readAll("output.wrl") == once, "two runs in a row write the same scene");
+  expect(first.messages == second.messages, "two runs in a row post the same messages");
+
+  // A file with a header and no node gives 1 and no message.
+  writeAll("host_empty.wrl", "#VRML V1.0 ascii\n\n");
+  CollectingView empty;
+  expect(translate("host_empty.wrl", empty, outputName) == 1, "a scene without a node gives 1");
+  expect(empty.messages.empty(), "a scene without a node posts nothing");
+
+  // A read error inside the root keeps the root: result 0 and the message.
+  writeAll("host_partial.wrl", "#VRML V1.0 ascii\nGroup { Cube { } Foo { } }\n");
+  CollectingView partial;
+  expect(translate("host_partial.wrl", partial, outputName) == 0, "a partial tree gives 0");
+  expect(partial.messages.size() == 1 &&
+             partial.messages[0] == "error: File \"host_partial.wrl\" Line 2: Unknown class \"Foo\"",
+         "the unknown class is reported at its file and line");
+  expect(readAll("output.wrl").find("Cube {") != std::string::npos, "the partial tree is written");
+
+  // The extended language only for the file type "vlm", in any case.
+  writeAll("host_declare.wrl", "#VRML V1.0 ascii\nGroup {\n\tDECLARE x:y 3\n}\n");
+  CollectingView extended;
+  expect(check("host_declare.wrl", "VLM", extended) == 0, "CheckSyntax gives 0");
+  expect(extended.messages.size() == 1 && extended.messages[0].find("Field x:y not found") != std::string::npos,
+         "with \"VLM\" DECLARE is a statement");
+  CollectingView plain;
+  check("host_declare.wrl", "wrl", plain);
+  expect(plain.messages.size() == 1 && plain.messages[0].find("Expected '{'; got 'x'") != std::string::npos,
+         "with \"wrl\" DECLARE is a node type name");
 
   // A file that does not exist reaches the view of this very call.
-  CollectingView missingView;
-  char missing[] = "no-such-scene.vlm";
-  if (ParseVRMLLumeric(missing, &missingView, nullptr, outputName) != 0) return fail("a missing file did not give 0");
-  if (missingView.messages.size() != 2) return fail("a missing file did not post two messages");
+  CollectingView missing;
+  char missingPath[] = "no-such-scene.vlm";
+  expect(ParseVRMLLumeric(missingPath, &missing, nullptr, outputName) == 0, "a missing file gives 0");
+  expect(missing.messages.size() == 2 && missing.messages[1] == "error: Path name is NULL",
+         "a missing file without a directory posts two errors");
 
-  for (const std::string& m : view.messages) std::printf("%s\n", m.c_str());
-  std::printf("host program: ok\n");
-  return 0;
+  // Warnings are the host's to switch on.
+  writeAll("host_warn.wrl", "#VRML V1.0 ascii\nGroup { Foo { fields [ ] } }\n");
+  gWarn = 2;
+  CollectingView warned;
+  translate("host_warn.wrl", warned, outputName);
+  gWarn = 0;
+  expect(warned.messages.size() == 1 &&
+             warned.messages[0] == "File \"host_warn.wrl\" Line 2: Warning: Unknown \"Foo\" node found",
+         "gWarn 2 enables the unknown-node warning, posted with flag 0");
+
+  if (failures == 0) std::printf("host program: ok\n");
+  return failures == 0 ? 0 : 1;
 }
