@@ -21,6 +21,7 @@
 set -euo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
 build="${1:-}"
+case "$build" in /* | "") ;; *) build="$PWD/$build" ;; esac
 bench_build="$root/build/bench"
 repeat="${BENCH_REPEAT:-3}"
 jobs="$(nproc 2>/dev/null || echo 2)"

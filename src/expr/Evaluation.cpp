@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "driver/QvContext.h"
+#include "expr/ExpressionLexer.h"
 #include "expr/NestedParse.h"
 #include "expr/ParseContext.h"
 #include "expr/TermArena.h"
@@ -48,6 +49,25 @@ Term* evaluate(FieldExpression* expression, int startToken) {
   return result;
 }
 
+// A text that is one plain decimal number (most written values are) takes
+// the same steps as its parse, without parsing: a new evaluation, the text
+// read through its guard, one more serial drawn, and a successful status.
+// While a parse is in progress the parser takes every text, so that an
+// expression rewritten during its own parse still meets the circular
+// reference guard.
+bool evaluatePlainNumber(FieldExpression* expression, double* out) {
+  const char* text = expression != nullptr ? expression->text() : nullptr;
+  double value;
+  if (text == nullptr || NestedParse::anyInProgress() || !ExpressionLexer::readPlainNumber(text, &value)) {
+    return false;
+  }
+  expression->textFor(theContext.startEvaluation());
+  theContext.drawSerial();
+  theContext.parseStatus = 0;
+  *out = value;
+  return true;
+}
+
 }  // namespace
 
 int parseExpression(FieldExpression* expression, Term** result, int serial, int startToken) {
@@ -68,6 +88,7 @@ StringTerm* evaluateName(FieldExpression* expression) {
 
 // The scalar is copied out, so every term made for it can go at once.
 int evaluateScalar(FieldExpression* expression, double* out) {
+  if (evaluatePlainNumber(expression, out)) return 1;
   TermScope scope;
   ScalarTerm* scalar = asScalar(evaluate(expression, 0));
   if (theContext.parseStatus != 0 || scalar == nullptr) return 0;

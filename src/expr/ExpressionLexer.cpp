@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -94,11 +95,53 @@ int keywordOrName(const char* name, size_t length) {
   return kNameToken;
 }
 
+// Most number texts have few digits and a small exponent.  When the digits
+// form an integer below 2^53 and the power of ten is at most 10^22, both
+// are exact doubles and one multiplication or division rounds correctly, so
+// the result is exactly what strtod gives.
+bool convertShortDecimal(const char* begin, const char* end, double* value) {
+  static const double kPowers[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+                                   1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+  uint64_t digits = 0;
+  int significant = 0;
+  int scale = 0;  // the power of ten the digits are multiplied by
+  const char* p = begin;
+  for (; p < end && isDigit(*p); ++p) {
+    if (digits == 0 && *p == '0') continue;
+    if (++significant > 15) return false;
+    digits = digits * 10 + static_cast<uint64_t>(*p - '0');
+  }
+  if (p < end && *p == '.') {
+    for (++p; p < end && isDigit(*p); ++p) {
+      --scale;
+      if (digits == 0 && *p == '0') continue;
+      if (++significant > 15) return false;
+      digits = digits * 10 + static_cast<uint64_t>(*p - '0');
+    }
+  }
+  if (p < end) {  // an exponent, well formed by now
+    ++p;
+    const bool negative = *p == '-';
+    if (*p == '-' || *p == '+') ++p;
+    int exponent = 0;
+    for (; p < end; ++p) {
+      if (exponent > 1000) return false;
+      exponent = exponent * 10 + (*p - '0');
+    }
+    scale += negative ? -exponent : exponent;
+  }
+  if (scale < -22 || scale > 22) return false;
+  const double mantissa = static_cast<double>(digits);
+  *value = scale < 0 ? mantissa / kPowers[-scale] : mantissa * kPowers[scale];
+  return true;
+}
+
 // The decimal text [begin, end), well formed.  from_chars rounds exactly as
 // strtod does; only values beyond the range of doubles need strtod itself,
 // which gives the infinities and zeros the user would expect.
 double convertDecimal(const char* begin, const char* end) {
   double number = 0.0;
+  if (convertShortDecimal(begin, end, &number)) return number;
   std::from_chars_result result = std::from_chars(begin, end, number);
   if (result.ec == std::errc() && result.ptr == end) return number;
   std::string copy(begin, end);
@@ -255,6 +298,33 @@ double ExpressionLexer::scanDecimalNumber(const char* start) {
   }
   cursor = p;
   return convertDecimal(start, p);
+}
+
+// The longest number text the fast reading below accepts.
+constexpr long kMaxNumberLength = 31;
+
+bool ExpressionLexer::readPlainNumber(const char* text, double* value) {
+  const char* p = text;
+  const bool negative = *p == '-';
+  if (*p == '-' || *p == '+') ++p;
+  const char* start = p;
+  if (p[0] == '0' && (isDigit(p[1]) || p[1] == 'x')) return false;
+  bool digits = false;
+  for (; isDigit(*p); ++p) digits = true;
+  if (*p == '.') {
+    for (++p; isDigit(*p); ++p) digits = true;
+  }
+  if (!digits) return false;
+  if (*p == 'e' || *p == 'E') {
+    ++p;
+    if (*p == '+' || *p == '-') ++p;
+    if (!isDigit(*p)) return false;
+    while (isDigit(*p)) ++p;
+  }
+  if (*p != '\0' || p - start > kMaxNumberLength) return false;
+  const double number = convertDecimal(start, p);
+  *value = negative ? -number : number;
+  return true;
 }
 
 // No escapes.  A control character or a byte with the high bit set ends the

@@ -56,6 +56,12 @@ class ExpressionLexer {
   // the next call overwrites.
   static const char* describeToken(int code);
 
+  // True when the whole text is one decimal NUMBER, with at most one sign in
+  // front: the value is then that of the text's parse, computed without
+  // parsing.  Octal and hexadecimal numbers, malformed exponents, over-long
+  // numbers and anything else are left to the parser.
+  static bool readPlainNumber(const char* text, double* value);
+
   FieldExpression* expression;  // where the text came from
   const char* cursor;           // the next unread character
   TokenValue* value;            // the parser's current token value

@@ -19,6 +19,8 @@ NestedParse::~NestedParse() {
   if (admitted_) --depth;
 }
 
+bool NestedParse::anyInProgress() { return depth > 0; }
+
 bool NestedParse::admit(FieldExpression* expression) {
   for (int k = 0; k < depth; ++k) {
     if (parsesInProgress[k] == expression) {

@@ -29,6 +29,8 @@ class NestedParse {
 
   // Whether the expression may be parsed from its own text.
   bool admitted() const { return admitted_; }
+  // Whether any parse is in progress at all.
+  static bool anyInProgress();
 
  private:
   static bool admit(FieldExpression* expression);

@@ -16,7 +16,6 @@ namespace {
 
 constexpr char kHeaderText[] = "#VRML V1.0 ascii";
 constexpr size_t kHeaderKeep = 255;
-constexpr size_t kBufferSize = 64 * 1024;
 // Integer digit runs longer than this are consumed but not kept; no value
 // of the integer kinds needs more digits, and the value saturates anyway.
 constexpr size_t kMaxIntegerDigits = 40;
@@ -25,6 +24,17 @@ bool isAsciiLower(char c) { return c >= 'a' && c <= 'z'; }
 bool isAsciiUpper(char c) { return c >= 'A' && c <= 'Z'; }
 bool isAsciiDigit(char c) { return c >= '0' && c <= '9'; }
 bool isHexDigit(char c) { return std::isxdigit(static_cast<unsigned char>(c)) != 0; }
+
+// Characters that neither end a value text nor change how it is read.
+bool isOrdinaryValueChar(char c) {
+  static const struct Table {
+    bool ordinary[256];
+    Table() {
+      for (int i = 0; i < 256; ++i) ordinary[i] = !isSceneSpace(i) && std::strchr("\\\",()[]", i) == nullptr;
+    }
+  } table;
+  return table.ordinary[static_cast<unsigned char>(c)];
+}
 
 }  // namespace
 
@@ -41,25 +51,6 @@ bool isNameChar(int c) {
 }
 
 bool isNameStart(int c) { return isNameChar(c) && !isAsciiDigit(static_cast<char>(c)); }
-
-struct QvSceneInput::State {
-  FILE* file = nullptr;
-  int line = 1;
-  bool headerRead = false;
-  bool usable = true;
-  std::string putBack;
-  int putBackIndex = -1;
-
-  // Our own buffering of `file`: one character can always be given back,
-  // since the last character read sits just before `position`.
-  std::unique_ptr<char[]> buffer{new char[kBufferSize]};
-  size_t position = 0;
-  size_t end = 0;
-  bool atEnd = false;
-  bool lastReadFailed = false;
-};
-
-void QvSceneInput::StateDeleter::operator()(State* state) const { delete state; }
 
 QvSceneInput::QvSceneInput() : defTable_(QvNameTable::kDefaultBuckets) { setFile(stdin); }
 
@@ -83,7 +74,7 @@ void QvSceneInput::restoreState(SavedState state) {
 bool QvSceneInput::readRaw(char& c) {
   State& s = *state_;
   if (s.position == s.end) {
-    size_t got = (s.file == nullptr || s.atEnd) ? 0 : std::fread(s.buffer.get(), 1, kBufferSize, s.file);
+    size_t got = (s.file == nullptr || s.atEnd) ? 0 : std::fread(s.buffer.get(), 1, State::kBufferSize, s.file);
     if (got == 0) {
       s.atEnd = true;
       c = kEndOfFile;
@@ -123,7 +114,7 @@ bool QvSceneInput::checkHeader() {
   return false;
 }
 
-bool QvSceneInput::getChar(char& c) {
+bool QvSceneInput::getCharSlowly(char& c) {
   State& s = *state_;
   if (s.putBackIndex >= 0) {
     if (s.putBackIndex < static_cast<int>(s.putBack.size())) {
@@ -287,7 +278,15 @@ bool QvSceneInput::readValueText(FieldExpression& expr, QvNode* node) {
   int closeBrackets = 0;
   bool quoted = c == '"';
 
-  while (length < kMaxValueText && getChar(c)) {
+  while (length < kMaxValueText) {
+    // Ordinary characters are copied straight from the buffer; only the
+    // few that can end or shape a value text go through the tests below.
+    State& s = *state_;
+    if (s.putBackIndex < 0 && s.position < s.end && isOrdinaryValueChar(s.buffer[s.position])) {
+      text[length++] = s.buffer[s.position++];
+      continue;
+    }
+    if (!getChar(c)) break;
     if (c == '\n') {
       ++state_->line;
       break;

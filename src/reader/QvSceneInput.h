@@ -35,12 +35,27 @@ class QvSceneInput {
   // Name kinds of readName.
   enum NameKind { kLowerName = 1, kDefName = 2, kUpperName = 3 };
 
-  // The reading state that an INCLUDE saves around the included file.
-  struct State;
-  struct StateDeleter {
-    void operator()(State* state) const;
+  // The reading state that an INCLUDE saves around the included file: the
+  // file with our own buffering of it, the line, the header state and the
+  // word given back.  One character can always be given back to the file,
+  // since the last character read sits just before `position`.
+  struct State {
+    static constexpr size_t kBufferSize = 64 * 1024;
+
+    FILE* file = nullptr;
+    int line = 1;
+    bool headerRead = false;
+    bool usable = true;
+    std::string putBack;
+    int putBackIndex = -1;
+
+    std::unique_ptr<char[]> buffer{new char[kBufferSize]};
+    size_t position = 0;
+    size_t end = 0;
+    bool atEnd = false;
+    bool lastReadFailed = false;
   };
-  using SavedState = std::unique_ptr<State, StateDeleter>;
+  using SavedState = std::unique_ptr<State>;
 
   QvSceneInput();
   ~QvSceneInput();
@@ -55,7 +70,16 @@ class QvSceneInput {
 
   // The next character; false (and c = kEndOfFile) at the end of the file
   // or when the header check fails.
-  bool getChar(char& c);
+  bool getChar(char& c) {
+    State& s = *state_;
+    if (s.putBackIndex < 0 && s.position < s.end) {
+      // Buffered characters exist only once the header has been checked.
+      c = s.buffer[s.position++];
+      s.lastReadFailed = false;
+      return true;
+    }
+    return getCharSlowly(c);
+  }
   // Gives back the last character read (never the end of the file).
   void putBackChar(char c);
   // The whole word is read again before the file; replaces a pending word.
@@ -88,6 +112,7 @@ class QvSceneInput {
   QvNode* findName(QvAtom name) const;
 
  private:
+  bool getCharSlowly(char& c);
   bool checkHeader();
   bool readRaw(char& c);  // the file only, no header check
   void unreadRaw();

@@ -7,4 +7,6 @@ set(LUMERIC_EXPR_TESTS
   expr/TestField.cpp
   expr/TestNode.cpp
   expr/FieldReferencesTest.cpp
+
+  expr/PlainNumberTest.cpp
 )
