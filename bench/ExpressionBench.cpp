@@ -63,6 +63,8 @@ void evaluateScalarOf(benchmark::State& state, const char* text) {
 
 BENCHMARK_CAPTURE(evaluateScalarOf, plainNumber, "1.5");
 BENCHMARK_CAPTURE(evaluateScalarOf, signedExponent, "-0.25e3");
+// The same number through the parser: parentheses keep it off the fast path.
+BENCHMARK_CAPTURE(evaluateScalarOf, parsedNumber, "(1.5)");
 BENCHMARK_CAPTURE(evaluateScalarOf, arithmetic, "(1+2)*3");
 BENCHMARK_CAPTURE(evaluateScalarOf, unknownName, "radius");
 
