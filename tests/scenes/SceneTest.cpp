@@ -76,8 +76,14 @@ TEST_P(SceneTest, MatchesItsExpectation) {
   EXPECT_EQ(run.err.find("Sanitizer"), std::string::npos) << run.err;
   // What we write must be VRML 1.0 that another reader loads, also when
   // reading stopped at an error and only part of the scene was written.
+  // NAME.unreadable marks (and explains) the few outputs that by design do
+  // not load, such as the error line of a USE without a name.
   if (!run.out.empty()) {
-    EXPECT_TRUE(LoadsInIndependentReader(run.out));
+    if (readFile(kSceneDir + "/" + stem(name) + ".unreadable").empty()) {
+      EXPECT_TRUE(LoadsInIndependentReader(run.out));
+    } else if (IndependentReaderAvailable()) {
+      EXPECT_FALSE(LoadsInIndependentReader(run.out));
+    }
   }
 }
 
