@@ -66,7 +66,7 @@ class QvStandardNode : public Base {
   }
 
  protected:
-  QvNode* newInstance() const override { return new Derived(); }
+  QvNode* newInstance() override { return new Derived(); }
 };
 
 }  // namespace lumeric

@@ -129,7 +129,7 @@ bool QvFieldTable::readSpecification(QvSceneInput* in, QvNode* node) {
 
 bool QvFieldTable::newFieldsAllowed(QvNode* node) const { return !node->isBuiltIn && fields_.empty(); }
 
-bool QvFieldTable::createDeclaredField(QvSceneInput*, QvNode* node, QvAtom typeName, QvAtom name) {
+bool QvFieldTable::createDeclaredField(QvNode* node, QvAtom typeName, QvAtom name) {
   if (name.isEmpty()) return false;
   QvField* field = createField(typeName);
   if (field == nullptr) return false;
@@ -151,7 +151,7 @@ bool QvFieldTable::readFieldSpecs(QvSceneInput* in, QvNode* node) {
     if (!in->readName(typeName, QvSceneInput::kUpperName) || !in->readName(name, QvSceneInput::kLowerName)) {
       return false;
     }
-    if (newFields && !createDeclaredField(in, node, typeName, name)) return false;
+    if (newFields && !createDeclaredField(node, typeName, name)) return false;
     if (!in->readChar(c)) return false;
     if (c == ']') return true;
     if (c != ',') return false;
@@ -170,7 +170,7 @@ bool QvFieldTable::readFieldSpec(QvSceneInput* in, QvNode* node) {
   }
   QvField* field = nullptr;
   if (newFieldsAllowed(node)) {
-    if (!createDeclaredField(in, node, typeName, name)) return false;
+    if (!createDeclaredField(node, typeName, name)) return false;
     field = findField(node, name);
   } else {
     field = findField(node, name);

@@ -65,7 +65,7 @@ class QvFieldTable {
     std::vector<QvAtom> names;
   };
   bool newFieldsAllowed(QvNode* node) const;
-  bool createDeclaredField(QvSceneInput* in, QvNode* node, QvAtom typeName, QvAtom name);
+  bool createDeclaredField(QvNode* node, QvAtom typeName, QvAtom name);
 
   bool ownsFields_;
   std::vector<Entry> fields_;

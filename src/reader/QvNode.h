@@ -72,8 +72,9 @@ class QvNode {
   // The leaf pattern of evaluate(): record the parent, and when copying add
   // an evaluated copy (made by newInstance and the class table) to `parent`.
   void evaluateLeaf(QvGroupNode* parent, bool copy);
-  // A node of the same class with its constructor defaults.
-  virtual QvNode* newInstance() const { return nullptr; }
+  // A node of the same class: with its constructor defaults, or, for a
+  // node whose fields are its own, with evaluated clones of them.
+  virtual QvNode* newInstance() { return nullptr; }
   // Names the copy as this node is named, gives it this node's line and
   // copies every field of the class table with its evaluated value.
   void initCopy(QvNode* copy);

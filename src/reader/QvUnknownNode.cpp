@@ -10,24 +10,14 @@ namespace lumeric {
 
 QvUnknownNode::QvUnknownNode(QvAtom className) : className_(className.text()) { isBuiltIn = 0; }
 
-void QvUnknownNode::evaluate(QvGroupNode* parentGroup, bool copy) {
-  if (!copy) {
-    QvGroupNode::evaluate(parentGroup, false);
-    return;
-  }
-  parent = theContext.topNode();
-  theContext.pushNode(this);
+QvNode* QvUnknownNode::newInstance() {
   QvUnknownNode* duplicate = new QvUnknownNode(QvAtom(className_.c_str()));
-  QvNodeRef keep(duplicate);
-  initCopy(duplicate);
   for (int i = 0; i < fields_.getNumFields(); ++i) {
     QvField* field = fields_.getField(this, i)->clone();
     field->setContainer(duplicate);
     duplicate->fields_.addField(duplicate, fields_.getFieldName(i), field);
   }
-  if (parentGroup != nullptr) parentGroup->addChild(duplicate);
-  evaluateChildren(duplicate, true);
-  theContext.popNode();
+  return duplicate;
 }
 
 void QvUnknownNode::write(FILE* out) {

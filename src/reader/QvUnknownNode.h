@@ -19,8 +19,12 @@ class QvUnknownNode : public QvGroupNode {
 
   QvFieldTable* getFieldTable() override { return &fields_; }
   const char* getClassName() const override { return className_.c_str(); }
-  void evaluate(QvGroupNode* parent, bool copy) override;
   void write(FILE* out) override;
+
+ protected:
+  // A node of the same class holding evaluated clones of the fields, under
+  // the same names and in the same order.
+  QvNode* newInstance() override;
 
  private:
   std::string className_;
