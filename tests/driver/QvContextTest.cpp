@@ -12,15 +12,7 @@
 namespace lumeric {
 namespace {
 
-class ContextTest : public ::testing::Test {
- protected:
-  void SetUp() override { theContext.setView(&view); }
-  void TearDown() override {
-    theContext.setView(nullptr);
-    endOfRunCleanUp();
-  }
-  RecordingView view;
-};
+using ContextTest = RecordedTest;
 
 TEST_F(ContextTest, MessagePrefixesFollowTheirOperation) {
   PlainTestNode fromFile;

@@ -15,15 +15,7 @@ namespace {
 
 const std::string kHeader = "#VRML V1.0 ascii\n";
 
-class SceneInputTest : public ::testing::Test {
- protected:
-  void SetUp() override { theContext.setView(&view); }
-  void TearDown() override {
-    theContext.setView(nullptr);
-    endOfRunCleanUp();
-  }
-  RecordingView view;
-};
+using SceneInputTest = RecordedTest;
 
 TEST_F(SceneInputTest, HeaderChecks) {
   struct {

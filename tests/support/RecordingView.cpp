@@ -1,5 +1,8 @@
 #include "support/RecordingView.h"
 
+#include "driver/QvContext.h"
+#include "driver/Translation.h"
+
 namespace lumeric {
 
 int RecordingView::post(const char* text, int flag) {
@@ -21,6 +24,13 @@ int RecordingView::errorCount() const {
   int count = 0;
   for (const Message& m : messages_) count += m.flag == 1 ? 1 : 0;
   return count;
+}
+
+void RecordedTest::SetUp() { theContext.setView(&view); }
+
+void RecordedTest::TearDown() {
+  theContext.setView(nullptr);
+  endOfRunCleanUp();
 }
 
 }  // namespace lumeric

@@ -2,6 +2,8 @@
 #ifndef LUMERIC_TESTS_SUPPORT_RECORDINGVIEW_H
 #define LUMERIC_TESTS_SUPPORT_RECORDINGVIEW_H
 
+#include <gtest/gtest.h>
+
 #include <string>
 #include <vector>
 
@@ -27,6 +29,15 @@ class RecordingView : public CReportErrorView {
 
  private:
   std::vector<Message> messages_;
+};
+
+// A test whose messages go to `view`; the run's names, tables and terms are
+// freed after it.
+class RecordedTest : public ::testing::Test {
+ protected:
+  void SetUp() override;
+  void TearDown() override;
+  RecordingView view;
 };
 
 }  // namespace lumeric
