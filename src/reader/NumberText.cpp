@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <cstdio>
 #include <cstring>
 
 namespace lumeric {
@@ -118,18 +119,6 @@ int formatInteger(char* buffer, long value) {
   auto result = std::to_chars(buffer, buffer + kNumberTextSize - 1, value);
   *result.ptr = '\0';
   return static_cast<int>(result.ptr - buffer);
-}
-
-void writeNumber(FILE* out, double value) {
-  char text[kNumberTextSize];
-  int length = formatNumber(text, value);
-  std::fwrite(text, 1, static_cast<size_t>(length), out);
-}
-
-void writeInteger(FILE* out, long value) {
-  char text[kNumberTextSize];
-  int length = formatInteger(text, value);
-  std::fwrite(text, 1, static_cast<size_t>(length), out);
 }
 
 }  // namespace lumeric

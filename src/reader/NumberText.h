@@ -3,8 +3,6 @@
 #ifndef LUMERIC_READER_NUMBERTEXT_H
 #define LUMERIC_READER_NUMBERTEXT_H
 
-#include <cstdio>
-
 namespace lumeric {
 
 // Room for any formatNumber / formatInteger text with its terminator.
@@ -15,10 +13,6 @@ constexpr int kNumberTextSize = 32;
 int formatNumber(char* buffer, double value);
 // Writes `value` as printf's "%d" would; returns the length.
 int formatInteger(char* buffer, long value);
-
-// Formatted output of one number straight to a stream.
-void writeNumber(FILE* out, double value);
-void writeInteger(FILE* out, long value);
 
 }  // namespace lumeric
 
