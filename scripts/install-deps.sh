@@ -3,7 +3,7 @@
 # Debian packages only; needs root (or sudo) the first time.
 set -euo pipefail
 
-packages=(cmake g++ make bison libgtest-dev libbenchmark-dev libcoin-dev binutils)
+packages=(cmake g++ make bison libgtest-dev libbenchmark-dev libcoin-dev binutils pkg-config groff-base)
 missing=()
 for p in "${packages[@]}"; do
   dpkg -s "$p" >/dev/null 2>&1 || missing+=("$p")

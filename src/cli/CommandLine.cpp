@@ -26,18 +26,37 @@ const char kUsageText[] =
     "  -W unknown     warn about nodes of unknown class that declare their fields\n"
     "  -W duplicate   warn about DEF names that are defined twice\n"
     "  -d DIR         when INPUT cannot be opened, try DIR followed by INPUT\n"
-    "  --help         show this text\n"
+    "  --message-format FORMAT\n"
+    "                 how messages are printed: plain (the default), gnu or json\n"
+    "  -h, --help     show this text\n"
     "  --version      show the version\n"
     "\n"
-    "Messages go to standard error, one per line: errors as \"error: TEXT\",\n"
-    "warnings and PRINT output as their text alone.\n"
+    "Messages go to standard error, one per line.  The library puts the position\n"
+    "in front of each: File \"NAME\" Line N: for what was read from a file,\n"
+    "Line N: alone for a copy made by LOOP, SELECT or USE (it has no file).\n"
+    "The message formats:\n"
+    "  plain  errors as \"error: \" and the message, warnings and PRINT output\n"
+    "         as the message alone\n"
+    "  gnu    the form editors and build tools jump from:\n"
+    "           FILE:LINE: error: TEXT\n"
+    "           FILE:LINE: warning: TEXT   (the \"Warning: \" becomes the severity)\n"
+    "           FILE:LINE: note: TEXT      (PRINT output)\n"
+    "           FILE: error: TEXT          (about a whole file)\n"
+    "           lumeric: error: TEXT       (no position)\n"
+    "           lumeric: error: Line N: TEXT\n"
+    "         the last for a copy, whose line may be in the input or in any\n"
+    "         file it included, so no file is named\n"
+    "  json   one object per line:\n"
+    "           {\"file\":\"FILE\",\"line\":N,\"severity\":\"error\",\"message\":\"TEXT\"}\n"
+    "         severity error, warning or note; file and line null when unknown\n"
     "\n"
     "Exit status: 0 when no error was reported, 1 when at least one was, 2 for a\n"
     "usage error.\n"
     "\n"
-    "Example:\n"
-    "  lumeric -o spiral.wrl examples/spiral.vlm\n"
-    "  lumeric --check examples/spiral.vlm\n";
+    "Examples:\n"
+    "  lumeric -o scene.wrl examples/expressions.vlm\n"
+    "  lumeric --check --message-format gnu examples/expressions.vlm\n"
+    "The examples are installed in share/doc/lumeric/examples below the prefix.\n";
 
 std::string fileTypeOf(const std::string& input) {
   size_t slash = input.find_last_of('/');
@@ -86,6 +105,13 @@ bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& err
         typeSet = true;
       } else if (arg == "-d") {
         if (!takeValue(argc, argv, i, line.directory, error)) return false;
+      } else if (arg == "--message-format") {
+        std::string name;
+        if (!takeValue(argc, argv, i, name, error)) return false;
+        if (!parseMessageFormat(name, line.messageFormat)) {
+          error = "unknown message format \"" + name + "\" (use plain, gnu or json)";
+          return false;
+        }
       } else if (arg == "-W") {
         std::string which;
         if (!takeValue(argc, argv, i, which, error)) return false;

@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "cli/MessageFormat.h"
+
 namespace lumeric {
 
 struct CommandLine {
@@ -16,6 +18,7 @@ struct CommandLine {
   std::string fileType;   // --type; empty: from the input's extension
   std::string directory;  // -d
   unsigned long warnings = 0;
+  MessageFormat messageFormat = MessageFormat::kPlain;  // --message-format
 };
 
 // Parses argv.  On a usage error returns false with `error` set.

@@ -3,12 +3,8 @@
 namespace lumeric {
 
 int StderrView::post(const char* text, int flag) {
-  if (flag == 1) {
-    ++errors_;
-    std::fprintf(stream_, "error: %s\n", text);
-  } else {
-    std::fprintf(stream_, "%s\n", text);
-  }
+  if (flag == 1) ++errors_;
+  std::fputs(formatMessage(format_, text, flag).c_str(), stream_);
   std::fflush(stream_);
   return 0;
 }

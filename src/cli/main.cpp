@@ -31,7 +31,7 @@ int main(int argc, char** argv) {
   }
 
   gWarn = line.warnings;
-  StderrView view;
+  StderrView view(line.messageFormat);
   std::vector<char> input(line.input.begin(), line.input.end());
   input.push_back('\0');
   std::vector<char> directory(line.directory.begin(), line.directory.end());

@@ -34,6 +34,9 @@ TEST(CommandLineOptions, ParseAndRefuse) {
       {{"--frobnicate", "a.vlm"}, false, "unknown option --frobnicate"},
       {{"--type", "vlm", "a.vlm"}, false, "--type is used only with --check"},
       {{"--check", "-o", "x", "a.vlm"}, false, "-o cannot be combined with --check"},
+      {{"--message-format", "gnu", "a.vlm"}, true, ""},
+      {{"--message-format", "xml", "a.vlm"}, false, "unknown message format \"xml\" (use plain, gnu or json)"},
+      {{"a.vlm", "--message-format"}, false, "option --message-format needs a value"},
   };
   for (const auto& c : cases) {
     std::vector<char*> argv{const_cast<char*>("lumeric")};
@@ -58,7 +61,7 @@ TEST(CommandLineRun, HelpVersionAndUsageErrors) {
   CommandResult help = runLumeric({"--help"}, dir.path());
   EXPECT_EQ(help.status, 0);
   EXPECT_TRUE(contains(help.out, "Usage: lumeric [options] INPUT"));
-  EXPECT_TRUE(contains(help.out, "Example:"));
+  EXPECT_TRUE(contains(help.out, "Examples:"));
   CommandResult version = runLumeric({"--version"}, dir.path());
   EXPECT_EQ(version.status, 0);
   EXPECT_EQ(version.out.rfind("lumeric ", 0), 0u);

@@ -1,0 +1,57 @@
+# What `cmake --install` puts where, and the files through which other
+# projects find the installed library: a CMake package (find_package(lumeric)
+# gives the target lumeric::lumeric) and a pkg-config file (lumeric.pc).
+# Include after the targets lumeric and lumeric_cli are defined.
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+# liblumeric.so.MAJOR is the name hosts load; .so.MAJOR.MINOR.PATCH the file.
+set_target_properties(lumeric PROPERTIES
+  VERSION ${PROJECT_VERSION}
+  SOVERSION ${PROJECT_VERSION_MAJOR})
+target_include_directories(lumeric INTERFACE
+  $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
+  $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+
+set(LUMERIC_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/lumeric)
+set(LUMERIC_DOC_DIR ${CMAKE_INSTALL_DATADIR}/doc/lumeric)
+
+install(TARGETS lumeric_cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS lumeric EXPORT lumericTargets
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(FILES ${PROJECT_SOURCE_DIR}/include/lumeric/lumeric.h
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/lumeric)
+install(FILES ${PROJECT_SOURCE_DIR}/docs/lumeric.1
+  DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES ${PROJECT_SOURCE_DIR}/README.md
+  DESTINATION ${LUMERIC_DOC_DIR})
+install(FILES
+  ${PROJECT_SOURCE_DIR}/examples/expressions.vlm
+  ${PROJECT_SOURCE_DIR}/examples/first.wrl
+  DESTINATION ${LUMERIC_DOC_DIR}/examples)
+
+# The CMake package.  Every path in it is relative to the installed file, so
+# an installed tree can be moved.
+install(EXPORT lumericTargets
+  NAMESPACE lumeric::
+  DESTINATION ${LUMERIC_CMAKE_DIR})
+configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/lumericConfig.cmake.in
+  ${CMAKE_CURRENT_BINARY_DIR}/lumericConfig.cmake
+  INSTALL_DESTINATION ${LUMERIC_CMAKE_DIR})
+# Before 1.0 a minor version may change the interface.
+write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/lumericConfigVersion.cmake
+  COMPATIBILITY SameMinorVersion)
+install(FILES
+  ${CMAKE_CURRENT_BINARY_DIR}/lumericConfig.cmake
+  ${CMAKE_CURRENT_BINARY_DIR}/lumericConfigVersion.cmake
+  DESTINATION ${LUMERIC_CMAKE_DIR})
+
+# The pkg-config file finds its prefix from its own place (${pcfiledir}), so
+# it too stays right wherever the tree is installed.
+file(RELATIVE_PATH LUMERIC_PC_TO_PREFIX
+  /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+string(REGEX REPLACE "/$" "" LUMERIC_PC_TO_PREFIX "${LUMERIC_PC_TO_PREFIX}")
+configure_file(${CMAKE_CURRENT_LIST_DIR}/lumeric.pc.in
+  ${CMAKE_CURRENT_BINARY_DIR}/lumeric.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/lumeric.pc
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
