@@ -26,6 +26,9 @@ fail() {
 
 rm -rf "$work"
 mkdir -p "$work"
+work=$(cd "$work" && pwd)
+build_dir=$(cd "$build_dir" && pwd)
+tests_dir=$(cd "$tests_dir" && pwd)
 prefix="$work/prefix"
 "$cmake" --install "$build_dir" --prefix "$prefix" >"$work/install.log" ||
   fail "cmake --install (see $work/install.log)"
