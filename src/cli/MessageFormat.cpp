@@ -2,6 +2,7 @@
 
 #include <cctype>
 #include <cstdio>
+#include <string>
 
 namespace lumeric {
 
@@ -92,14 +93,17 @@ std::string jsonLine(const MessageParts& parts) {
 size_t utf8Length(const std::string& text, size_t pos) {
   auto byte = [&](size_t i) { return static_cast<unsigned char>(text[i]); };
   unsigned char lead = byte(pos);
-  size_t length;
-  unsigned long code;
+  size_t length = 0;
+  unsigned long code = 0;
   if (lead >= 0xC2 && lead <= 0xDF) {
-    length = 2, code = lead & 0x1F;
+    length = 2;
+    code = lead & 0x1F;
   } else if (lead >= 0xE0 && lead <= 0xEF) {
-    length = 3, code = lead & 0x0F;
+    length = 3;
+    code = lead & 0x0F;
   } else if (lead >= 0xF0 && lead <= 0xF4) {
-    length = 4, code = lead & 0x07;
+    length = 4;
+    code = lead & 0x07;
   } else {
     return 0;
   }
