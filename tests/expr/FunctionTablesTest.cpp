@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <set>
 #include <string>
@@ -11,6 +12,7 @@
 #include "driver/QvContext.h"
 #include "expr/Evaluation.h"
 #include "expr/ExpressionFixture.h"
+#include "expr/functions/FunctionLookup.h"
 #include "expr/functions/FunctionTables.h"
 #include "expr/functions/NameCase.h"
 
@@ -238,6 +240,26 @@ TEST_F(FunctionTablesTest, RowsAreWellFormedAndUnique) {
     key += ':';
     for (const char* c = row.name; *c != '\0'; ++c) key += lowerAscii(*c);
     EXPECT_TRUE(seen.insert(key).second) << key;
+  }
+}
+
+// Every row is found from its own name in upper case with arguments of its
+// own kinds, whatever order the index keeps them in.
+TEST_F(FunctionTablesTest, EveryRowIsFoundByItsNameAndKinds) {
+  const FunctionTable table = builtinFunctions();
+  for (size_t k = 0; k < table.size; ++k) {
+    const FunctionRow& row = table.rows[k];
+    std::vector<Term*> arguments;
+    for (const char* kind = row.kinds; *kind != '\0'; ++kind) {
+      if (*kind == 's') arguments.push_back(ScalarTerm::make(1.0));
+      if (*kind == 'v') arguments.push_back(VectorTerm::make(3));
+      if (*kind == 'm') arguments.push_back(MatrixTerm::make(2, 2));
+      if (*kind == 't') arguments.push_back(StringTerm::make("x"));
+    }
+    std::string shouted = row.name;
+    for (char& c : shouted) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    EXPECT_EQ(findFunction(shouted.c_str(), arguments.data(), static_cast<int>(arguments.size())), &row)
+        << row.name << "(" << row.kinds << ")";
   }
 }
 
