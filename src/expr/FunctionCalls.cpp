@@ -1,7 +1,9 @@
 #include "expr/FunctionCalls.h"
 
-#include "driver/QvContext.h"
 #include "expr/Term.h"
+#include "expr/functions/FunctionLookup.h"
+#include "expr/functions/FunctionMessages.h"
+#include "expr/functions/Units.h"
 
 namespace lumeric {
 
@@ -15,27 +17,24 @@ bool allScalars(Term* const* arguments, int count) {
 }
 
 // What a call gets when no function of its argument count, kinds and name
-// exists.
+// exists.  Six arguments that are not all scalars, and twelve arguments,
+// fail without a word.
 Term* notFound(const char* name, Term* const* arguments, int count, FieldExpression* at) {
-  if (count == 0) {
-    theContext.reportAtExpression(at, "Function %s() not found", name);
-  } else if (count <= 4 || (count == 6 && allScalars(arguments, count))) {
-    theContext.reportAtExpression(at, "Function %s(...) not found", name);
+  if (count == 0) return refuseCall(at, "Function %s() not found", name);
+  if (count <= 4 || (count == 6 && allScalars(arguments, count))) {
+    return refuseCall(at, "Function %s(...) not found", name);
   }
   return nullptr;
 }
 
 }  // namespace
 
-// No function tables are registered yet: every name is unknown.
 Term* callFunction(const char* name, Term* const* arguments, int count, FieldExpression* at) {
-  return notFound(name, arguments, count, at);
+  const FunctionRow* row = findFunction(name, arguments, count);
+  if (row == nullptr) return notFound(name, arguments, count, at);
+  return row->body(arguments, at);
 }
 
-// No unit table is registered yet: every unit is unknown.
-Term* applyUnit(Term* term, const char* unit, FieldExpression* at) {
-  theContext.reportAtExpression(at, "Conversion %s not found", unit);
-  return term;
-}
+Term* applyUnit(Term* term, const char* unit, FieldExpression* at) { return convertUnit(term, unit, at); }
 
 }  // namespace lumeric

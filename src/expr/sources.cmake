@@ -11,6 +11,22 @@ set(LUMERIC_EXPR_SOURCES
   src/expr/FieldReferences.cpp
   src/expr/AssignmentStatements.cpp
   src/expr/FunctionCalls.cpp
+  src/expr/functions/FunctionMessages.cpp
+  src/expr/functions/FunctionLookup.cpp
+  src/expr/functions/FunctionTables.cpp
+  src/expr/functions/Units.cpp
+  src/expr/functions/ElementaryFunctions.cpp
+  src/expr/functions/PointDistances.cpp
+  src/expr/functions/MatrixFunctions.cpp
+  src/expr/functions/TransformBuilders.cpp
+  src/expr/functions/AxisRotation.cpp
+  src/expr/functions/OrientationBetween.cpp
+  src/expr/functions/PointAt.cpp
+  src/expr/functions/RotateOrientations.cpp
+  src/expr/functions/NamedColours.cpp
+  src/expr/functions/Interpolation.cpp
+  src/expr/functions/RandomGenerator.cpp
+  src/expr/functions/FractalSurfaces.cpp
   src/expr/NestedParse.cpp
   src/expr/Evaluation.cpp
 )

@@ -66,10 +66,12 @@ void QvSFMatrix::write(FILE* out) {
     componentNumbers(numbers);
   }
   OutputText text(out);
-  text.character(' ');
   ++theContext.indentLevel;
+  // Every row, the first included, starts with a blank: after the field
+  // name on the first line and after the tabs on the others.
   for (int row = 0; row < 4; ++row) {
     if (row > 0) text.indentation();
+    text.character(' ');
     for (int col = 0; col < 4; ++col) text.number(numbers[4 * row + col]).character(col < 3 ? ' ' : '\n');
   }
   --theContext.indentLevel;

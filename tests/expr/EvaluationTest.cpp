@@ -174,7 +174,7 @@ TEST_F(EvaluationTest, NameExpressions) {
   });
 }
 
-TEST_F(EvaluationTest, CallsAndUnitsWithoutTables) {
+TEST_F(EvaluationTest, CallsAndUnitsThatMatchNothing) {
   check({
       {"f()", "none", 1, {"Function f() not found"}},
       {"f(1)", "none", 1, {"Function f(...) not found"}},
@@ -184,7 +184,7 @@ TEST_F(EvaluationTest, CallsAndUnitsWithoutTables) {
       {"f(1,2,3,4,5,6)", "none", 1, {"Function f(...) not found"}},
       {"f((1,2),2,3,4,5,6)", "none", 1, {}},
       {"f(1,2,3,4,5,6,7,8,9,10,11,12)", "none", 1, {}},
-      {"90'deg", "scalar 90", 0, {"Conversion deg not found"}},
+      {"90'furlong", "scalar 90", 0, {"Conversion furlong not found"}},
       {"(1,2)'m", "vector (1,2)", 0, {"Conversion m not found"}},
   });
 }

@@ -7,6 +7,9 @@ set(LUMERIC_EXPR_TESTS
   expr/TestField.cpp
   expr/TestNode.cpp
   expr/FieldReferencesTest.cpp
+  expr/FunctionTablesTest.cpp
+  expr/OrientationsTest.cpp
+  expr/FractalSurfacesTest.cpp
 
   expr/PlainNumberTest.cpp
 )

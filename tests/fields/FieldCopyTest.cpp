@@ -58,7 +58,7 @@ const CopyCase kCopies[] = {
     {"SFColor", "=(1,0)", " 0 0 0\n", {}},
     {"SFRotation", "=(0,1,0,2)", " 0 1 0 2\n", {}},
     {"SFRotation", "=(0,1)", " 0 0 0 0\n", {"Line 2: Cannot set a SFRotation field using this expression"}},
-    {"SFMatrix", "=1", " 0 0 0 0\n\t0 0 0 0\n\t0 0 0 0\n\t0 0 0 0\n", {}},
+    {"SFMatrix", "=1", " 0 0 0 0\n\t 0 0 0 0\n\t 0 0 0 0\n\t 0 0 0 0\n", {}},
     {"SFImage", "1 1 3 0xFF0000", " 1 1 3\n\t0xff0000\n", {}},
     {"MFVec3f", "[1 2 3, =(4,5,6);(7,8,9)]", " [ 1 2 3,\n\t4 5 6,\n\t7 8 9 ]\n", {}},
     {"MFVec2f", "[=\"s\", 1 2]", " 1 2\n", {}},

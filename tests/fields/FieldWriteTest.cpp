@@ -77,7 +77,7 @@ const WriteCase kVectors[] = {
     {"SFRotation", "0.123456 0 1 0.123456", " 0.1235 0 1 0.123456\n", {}},
     {"SFRotation", "=(0,1,0,3.14159265)", " 0  1  0  3.14159\n", {}},
     {"SFRotation", "=(0,1,0)", "", {"Line 2: Cannot use this expression to set a rotation field"}},
-    {"SFMatrix", "1 0 0 0 0 1 0 0 0 0 1 0 0.123456 0 0 1", " 1 0 0 0\n\t0 1 0 0\n\t0 0 1 0\n\t0.123456 0 0 1\n", {}},
+    {"SFMatrix", "1 0 0 0 0 1 0 0 0 0 1 0 0.123456 0 0 1", " 1 0 0 0\n\t 0 1 0 0\n\t 0 0 1 0\n\t 0.123456 0 0 1\n", {}},
     {"SFMatrix", "=1", "", {"Line 2: Expression does not evaluate to a 4 by 4 matrix"}},
 };
 INSTANTIATE_TEST_SUITE_P(Vectors, FieldWriteTest, ::testing::ValuesIn(kVectors));
@@ -146,7 +146,7 @@ TEST_F(FieldFixture, ListRowsIndentOneLevelBelowTheField) {
   theContext.indentLevel = 2;
   EXPECT_EQ(written(*vectors), " [ 1 2,\n\t\t\t3 4 ]\n");
   EXPECT_EQ(written(*numbers), " [ 1, 2, 3, 4, 5, 6, 7, 8, 9, 10,\n\t\t\t 11 ]\n");
-  EXPECT_EQ(written(*matrix), " 1 0 0 0\n\t\t\t0 1 0 0\n\t\t\t0 0 1 0\n\t\t\t0 0 0 1\n");
+  EXPECT_EQ(written(*matrix), " 1 0 0 0\n\t\t\t 0 1 0 0\n\t\t\t 0 0 1 0\n\t\t\t 0 0 0 1\n");
   EXPECT_EQ(theContext.indentLevel, 2);
 }
 
