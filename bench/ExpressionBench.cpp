@@ -8,10 +8,10 @@
 #include <atomic>
 #include <cstddef>
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/Evaluation.h"
 #include "expr/Term.h"
-#include "reader/FieldExpression.h"
+#include "scene/FieldExpression.h"
 
 extern "C" {
 void* __libc_malloc(size_t size);

@@ -1,7 +1,8 @@
 #include "expr/FunctionCalls.h"
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/Term.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -18,9 +19,9 @@ bool allScalars(Term* const* arguments, int count) {
 // exists.
 Term* notFound(const char* name, Term* const* arguments, int count, FieldExpression* at) {
   if (count == 0) {
-    theContext.reportAtExpression(at, "Function %s() not found", name);
+    reportAtExpression(at, "Function %s() not found", name);
   } else if (count <= 4 || (count == 6 && allScalars(arguments, count))) {
-    theContext.reportAtExpression(at, "Function %s(...) not found", name);
+    reportAtExpression(at, "Function %s(...) not found", name);
   }
   return nullptr;
 }
@@ -34,7 +35,7 @@ Term* callFunction(const char* name, Term* const* arguments, int count, FieldExp
 
 // No unit table is registered yet: every unit is unknown.
 Term* applyUnit(Term* term, const char* unit, FieldExpression* at) {
-  theContext.reportAtExpression(at, "Conversion %s not found", unit);
+  reportAtExpression(at, "Conversion %s not found", unit);
   return term;
 }
 

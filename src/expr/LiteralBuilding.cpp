@@ -2,8 +2,9 @@
 
 #include <string>
 
-#include "driver/QvContext.h"
-#include "reader/NumberText.h"
+#include "core/QvContext.h"
+#include "core/NumberText.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -42,7 +43,7 @@ Term* appendToVector(Term* list, Term* item, FieldExpression* at) {
     pair->elements[1] = asScalar(item)->value;
     return pair;
   }
-  theContext.reportAtExpression(at, "Error in forming vector");
+  reportAtExpression(at, "Error in forming vector");
   return nullptr;
 }
 
@@ -64,7 +65,7 @@ Term* appendMatrixRow(Term* tuple, Term* row, FieldExpression* at) {
     for (int32_t j = 0; j < matrix->cols; ++j) matrix->at(rows, j) = last->elements[j];
     return matrix;
   }
-  theContext.reportAtExpression(at, "Error in forming matrix");
+  reportAtExpression(at, "Error in forming matrix");
   return nullptr;
 }
 
@@ -83,7 +84,7 @@ StringTerm* appendFormattedValue(const StringTerm* name, const Term* value, Fiel
     }
     text += ')';
   } else {
-    theContext.reportAtExpression(at, "Cannot format value for use with string expression");
+    reportAtExpression(at, "Cannot format value for use with string expression");
     return nullptr;
   }
   return StringTerm::make(text.c_str(), text.size());

@@ -3,7 +3,8 @@
 #include <climits>
 #include <cmath>
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -33,7 +34,7 @@ void projectRow(const double* in, double* out) {
 
 VectorTerm* convertTo4D(const VectorTerm* v, FieldExpression* at) {
   if (v->length != 3) {
-    theContext.reportAtExpression(at, "Cannot convert a %dD vector to a 4D vector", v->length);
+    reportAtExpression(at, "Cannot convert a %dD vector to a 4D vector", v->length);
     return nullptr;
   }
   VectorTerm* result = VectorTerm::make(4);
@@ -43,7 +44,7 @@ VectorTerm* convertTo4D(const VectorTerm* v, FieldExpression* at) {
 
 MatrixTerm* convertTo4D(const MatrixTerm* m, FieldExpression* at) {
   if (m->cols != 3) {
-    theContext.reportAtExpression(at, "Cannot convert a %dD matrix to a 4D matrix", m->cols);
+    reportAtExpression(at, "Cannot convert a %dD matrix to a 4D matrix", m->cols);
     return nullptr;
   }
   MatrixTerm* result = MatrixTerm::make(m->rows, 4);
@@ -53,7 +54,7 @@ MatrixTerm* convertTo4D(const MatrixTerm* m, FieldExpression* at) {
 
 VectorTerm* convertTo3D(const VectorTerm* v, FieldExpression* at) {
   if (v->length != 4) {
-    theContext.reportAtExpression(at, "Cannot convert a %dD vector to a 3D vector", v->length);
+    reportAtExpression(at, "Cannot convert a %dD vector to a 3D vector", v->length);
     return nullptr;
   }
   VectorTerm* result = VectorTerm::make(3);
@@ -63,7 +64,7 @@ VectorTerm* convertTo3D(const VectorTerm* v, FieldExpression* at) {
 
 MatrixTerm* convertTo3D(const MatrixTerm* m, FieldExpression* at) {
   if (m->cols != 4) {
-    theContext.reportAtExpression(at, "Cannot convert a %dD matrix to a 3D matrix", m->cols);
+    reportAtExpression(at, "Cannot convert a %dD matrix to a 3D matrix", m->cols);
     return nullptr;
   }
   MatrixTerm* result = MatrixTerm::make(m->rows, 3);

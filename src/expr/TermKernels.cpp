@@ -1,6 +1,7 @@
 #include "expr/TermKernels.h"
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -48,7 +49,7 @@ MatrixTerm* combineMatrices(const MatrixTerm* a, const MatrixTerm* b, Operation 
 
 VectorTerm* addScalarToVector(double s, const VectorTerm* v, FieldExpression* at) {
   if (v->length <= 0) {
-    theContext.reportAtExpression(at, "Cannot add a scaler to a %d length vector", v->length);
+    reportAtExpression(at, "Cannot add a scaler to a %d length vector", v->length);
     return nullptr;
   }
   return mapVector(v, [s](double x) { return x + s; });
@@ -56,7 +57,7 @@ VectorTerm* addScalarToVector(double s, const VectorTerm* v, FieldExpression* at
 
 MatrixTerm* addScalarToMatrix(double s, const MatrixTerm* m, FieldExpression* at) {
   if (isEmpty(m)) {
-    theContext.reportAtExpression(at, "Cannot add a scaler to a %d x %d matrix", m->rows, m->cols);
+    reportAtExpression(at, "Cannot add a scaler to a %d x %d matrix", m->rows, m->cols);
     return nullptr;
   }
   return mapMatrix(m, [s](double x) { return x + s; });
@@ -64,7 +65,7 @@ MatrixTerm* addScalarToMatrix(double s, const MatrixTerm* m, FieldExpression* at
 
 VectorTerm* addVectors(const VectorTerm* a, const VectorTerm* b, FieldExpression* at) {
   if (!sameLength(a, b)) {
-    theContext.reportAtExpression(at, "Cannot add a %d length vector to a %d length vector", a->length, b->length);
+    reportAtExpression(at, "Cannot add a %d length vector to a %d length vector", a->length, b->length);
     return nullptr;
   }
   return combineVectors(a, b, [](double x, double y) { return x + y; });
@@ -72,7 +73,7 @@ VectorTerm* addVectors(const VectorTerm* a, const VectorTerm* b, FieldExpression
 
 VectorTerm* subtractVectors(const VectorTerm* a, const VectorTerm* b, FieldExpression* at) {
   if (!sameLength(a, b)) {
-    theContext.reportAtExpression(at, "Cannot add a %d length vector to a %d length vector", a->length, b->length);
+    reportAtExpression(at, "Cannot add a %d length vector to a %d length vector", a->length, b->length);
     return nullptr;
   }
   return combineVectors(a, b, [](double x, double y) { return x - y; });
@@ -80,7 +81,7 @@ VectorTerm* subtractVectors(const VectorTerm* a, const VectorTerm* b, FieldExpre
 
 MatrixTerm* addMatrices(const MatrixTerm* a, const MatrixTerm* b, FieldExpression* at) {
   if (!sameShape(a, b)) {
-    theContext.reportAtExpression(at, "Cannot add a %d x %d matrix to a %d by %d matrix", a->rows, a->cols, b->rows,
+    reportAtExpression(at, "Cannot add a %d x %d matrix to a %d by %d matrix", a->rows, a->cols, b->rows,
                                   b->cols);
     return nullptr;
   }
@@ -89,7 +90,7 @@ MatrixTerm* addMatrices(const MatrixTerm* a, const MatrixTerm* b, FieldExpressio
 
 MatrixTerm* subtractMatrices(const MatrixTerm* a, const MatrixTerm* b, FieldExpression* at) {
   if (!sameShape(a, b)) {
-    theContext.reportAtExpression(at, "Cannot add a %d x %d matrix to a %d by %d matrix", a->rows, a->cols, b->rows,
+    reportAtExpression(at, "Cannot add a %d x %d matrix to a %d by %d matrix", a->rows, a->cols, b->rows,
                                   b->cols);
     return nullptr;
   }
@@ -98,7 +99,7 @@ MatrixTerm* subtractMatrices(const MatrixTerm* a, const MatrixTerm* b, FieldExpr
 
 VectorTerm* scaleVector(double s, const VectorTerm* v, FieldExpression* at) {
   if (v->length <= 0) {
-    theContext.reportAtExpression(at, "Cannot multiply a %d length vector by a scaler", v->length);
+    reportAtExpression(at, "Cannot multiply a %d length vector by a scaler", v->length);
     return nullptr;
   }
   return mapVector(v, [s](double x) { return x * s; });
@@ -106,7 +107,7 @@ VectorTerm* scaleVector(double s, const VectorTerm* v, FieldExpression* at) {
 
 MatrixTerm* scaleMatrix(double s, const MatrixTerm* m, FieldExpression* at) {
   if (isEmpty(m)) {
-    theContext.reportAtExpression(at, "Cannot multiply a %d x %d matrix by a scaler", m->rows, m->cols);
+    reportAtExpression(at, "Cannot multiply a %d x %d matrix by a scaler", m->rows, m->cols);
     return nullptr;
   }
   return mapMatrix(m, [s](double x) { return x * s; });
@@ -114,7 +115,7 @@ MatrixTerm* scaleMatrix(double s, const MatrixTerm* m, FieldExpression* at) {
 
 VectorTerm* multiplyVectors(const VectorTerm* a, const VectorTerm* b, FieldExpression* at) {
   if (!sameLength(a, b)) {
-    theContext.reportAtExpression(at, "Cannot multiply a %d length vector by a %d length vector", a->length,
+    reportAtExpression(at, "Cannot multiply a %d length vector by a %d length vector", a->length,
                                   b->length);
     return nullptr;
   }
@@ -123,7 +124,7 @@ VectorTerm* multiplyVectors(const VectorTerm* a, const VectorTerm* b, FieldExpre
 
 MatrixTerm* multiplyMatrices(const MatrixTerm* a, const MatrixTerm* b, FieldExpression* at) {
   if (isEmpty(a) || isEmpty(b) || b->rows != a->cols) {
-    theContext.reportAtExpression(at, "Cannot multiply a %d x %d matrix by a %d by %d matrix", a->rows, a->cols,
+    reportAtExpression(at, "Cannot multiply a %d x %d matrix by a %d by %d matrix", a->rows, a->cols,
                                   b->rows, b->cols);
     return nullptr;
   }
