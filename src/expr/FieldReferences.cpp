@@ -27,8 +27,7 @@ struct Selection {
 bool selectionFrom(Term* first, Term* second, Selection* selection, FieldExpression* at) {
   if ((first != nullptr && !indexFromTerm(first, &selection->i)) ||
       (second != nullptr && !indexFromTerm(second, &selection->j))) {
-    reportAtExpression(at, "Cannot use a term as an index");
-    return false;
+    return reportAtExpression(at, "Cannot use a term as an index");
   }
   selection->count = first == nullptr ? 0 : (second == nullptr ? 1 : 2);
   return true;
@@ -52,10 +51,7 @@ void reportUnusable(FieldExpression* at, const char* label, const Selection& sel
 
 Term* valueOf(QvField* field, const char* label, const Selection& selection, bool plainIsDefined,
               FieldExpression* at) {
-  if (field == nullptr) {
-    reportAtExpression(at, "Field %s not found", label);
-    return nullptr;
-  }
+  if (field == nullptr) return reportAtExpression(at, "Field %s not found", label);
   Term* value = field->GetLumericValue(selection.i, selection.j, at);
   if (value == nullptr) reportUnusable(at, label, selection, plainIsDefined);
   return value;
@@ -109,10 +105,7 @@ Term* referToNodeField(const char* nodeName, const char* fieldName, Term* first,
 
 Term* localFieldValue(QvNode* node, const char* name, FieldExpression* at) {
   QvField* field = findLocalField(node, QvAtom(name));
-  if (field == nullptr) {
-    reportAtExpression(at, "Local Field %s not found", name);
-    return nullptr;
-  }
+  if (field == nullptr) return reportAtExpression(at, "Local Field %s not found", name);
   Term* value = field->GetLumericValue(-1, -1, at);
   if (value == nullptr) reportAtExpression(at, "%s is not a valid element", name);
   return value;

@@ -120,8 +120,7 @@ bool luSolve(int n, const double* a, const int* pivot, double* b) {
 
 Term* determinantOf(const MatrixTerm* m, FieldExpression* at) {
   if (!isSquare(m)) {
-    reportAtExpression(at, "Cannot compute the determinate of a %d x %d matrix", m->rows, m->cols);
-    return nullptr;
+    return reportAtExpression(at, "Cannot compute the determinate of a %d x %d matrix", m->rows, m->cols);
   }
   const int n = m->rows;
   std::vector<double> factors(m->elements, m->elements + static_cast<size_t>(n) * n);
@@ -138,10 +137,7 @@ Term* determinantOf(const MatrixTerm* m, FieldExpression* at) {
 }
 
 MatrixTerm* inverseOf(const MatrixTerm* m, FieldExpression* at) {
-  if (!isSquare(m)) {
-    reportAtExpression(at, "Cannot compute the inverse of a %d x %d matrix", m->rows, m->cols);
-    return nullptr;
-  }
+  if (!isSquare(m)) return reportAtExpression(at, "Cannot compute the inverse of a %d x %d matrix", m->rows, m->cols);
   const int n = m->rows;
   MatrixTerm* inverse = MatrixTerm::make(n, n);
   std::vector<double> factors(m->elements, m->elements + static_cast<size_t>(n) * n);

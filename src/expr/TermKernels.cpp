@@ -48,33 +48,25 @@ MatrixTerm* combineMatrices(const MatrixTerm* a, const MatrixTerm* b, Operation 
 }  // namespace
 
 VectorTerm* addScalarToVector(double s, const VectorTerm* v, FieldExpression* at) {
-  if (v->length <= 0) {
-    reportAtExpression(at, "Cannot add a scaler to a %d length vector", v->length);
-    return nullptr;
-  }
+  if (v->length <= 0) return reportAtExpression(at, "Cannot add a scaler to a %d length vector", v->length);
   return mapVector(v, [s](double x) { return x + s; });
 }
 
 MatrixTerm* addScalarToMatrix(double s, const MatrixTerm* m, FieldExpression* at) {
-  if (isEmpty(m)) {
-    reportAtExpression(at, "Cannot add a scaler to a %d x %d matrix", m->rows, m->cols);
-    return nullptr;
-  }
+  if (isEmpty(m)) return reportAtExpression(at, "Cannot add a scaler to a %d x %d matrix", m->rows, m->cols);
   return mapMatrix(m, [s](double x) { return x + s; });
 }
 
 VectorTerm* addVectors(const VectorTerm* a, const VectorTerm* b, FieldExpression* at) {
   if (!sameLength(a, b)) {
-    reportAtExpression(at, "Cannot add a %d length vector to a %d length vector", a->length, b->length);
-    return nullptr;
+    return reportAtExpression(at, "Cannot add a %d length vector to a %d length vector", a->length, b->length);
   }
   return combineVectors(a, b, [](double x, double y) { return x + y; });
 }
 
 VectorTerm* subtractVectors(const VectorTerm* a, const VectorTerm* b, FieldExpression* at) {
   if (!sameLength(a, b)) {
-    reportAtExpression(at, "Cannot add a %d length vector to a %d length vector", a->length, b->length);
-    return nullptr;
+    return reportAtExpression(at, "Cannot add a %d length vector to a %d length vector", a->length, b->length);
   }
   return combineVectors(a, b, [](double x, double y) { return x - y; });
 }
@@ -98,18 +90,12 @@ MatrixTerm* subtractMatrices(const MatrixTerm* a, const MatrixTerm* b, FieldExpr
 }
 
 VectorTerm* scaleVector(double s, const VectorTerm* v, FieldExpression* at) {
-  if (v->length <= 0) {
-    reportAtExpression(at, "Cannot multiply a %d length vector by a scaler", v->length);
-    return nullptr;
-  }
+  if (v->length <= 0) return reportAtExpression(at, "Cannot multiply a %d length vector by a scaler", v->length);
   return mapVector(v, [s](double x) { return x * s; });
 }
 
 MatrixTerm* scaleMatrix(double s, const MatrixTerm* m, FieldExpression* at) {
-  if (isEmpty(m)) {
-    reportAtExpression(at, "Cannot multiply a %d x %d matrix by a scaler", m->rows, m->cols);
-    return nullptr;
-  }
+  if (isEmpty(m)) return reportAtExpression(at, "Cannot multiply a %d x %d matrix by a scaler", m->rows, m->cols);
   return mapMatrix(m, [s](double x) { return x * s; });
 }
 

@@ -11,8 +11,7 @@ namespace lumeric {
 namespace {
 
 Term* fail(FieldExpression* at, const char* message) {
-  reportAtExpression(at, "%s", message);
-  return nullptr;
+  return reportAtExpression(at, "%s", message);
 }
 
 // Division and remainder by zero are reported but do not fail.

@@ -99,19 +99,10 @@ bool ExpressionListField::readValue(QvSceneInput* in) {
     if (num <= n) setNum(n + 1);
     bool elementRead = readElement(in, n);
     ++n;
-    if (!elementRead) {
-      readError(in, "Couldn't read value %d of field", n);
-      return false;
-    }
-    if (!in->readChar(c)) {
-      readError(in, "Couldn't read value %d of field", n);
-      return false;
-    }
+    if (!elementRead) return readError(in, "Couldn't read value %d of field", n);
+    if (!in->readChar(c)) return readError(in, "Couldn't read value %d of field", n);
     if (c == ']') break;
-    if (c != ',') {
-      readError(in, "Expected '%c' or '%c' but got '%c' while reading value %d", ',', ']', c, n);
-      return false;
-    }
+    if (c != ',') return readError(in, "Expected '%c' or '%c' but got '%c' while reading value %d", ',', ']', c, n);
     if (in->peekChar(']')) {
       in->readChar(c);
       break;

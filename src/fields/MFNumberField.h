@@ -100,8 +100,7 @@ Term* MFNumberField<Derived, Traits>::GetLumericValue(int i, int j, FieldExpress
     int count = static_cast<int>(numbers.size());
     if (i == -1) return makeVector(numbers.data(), count);
     if (i >= 0 && i < count) return ScalarTerm::make(numbers[static_cast<size_t>(i)]);
-    reportAtExpression(at, Traits::kBounds, i);
-    return nullptr;
+    return reportAtExpression(at, Traits::kBounds, i);
   }
   if (i == -1 && j == -1) {
     VectorTerm* vector = VectorTerm::make(num);

@@ -124,12 +124,10 @@ Term* MFVectorField<Derived, Traits>::GetLumericValue(int i, int j, FieldExpress
     if (i == -1 && j == -1) return makeMatrix(rows.data(), count, kWidth);
     if (j == -1) {
       if (i >= 0 && i < count) return makeVector(&rows[static_cast<size_t>(i) * kWidth], kWidth);
-      reportAtExpression(at, Traits::kBoundsRow, i);
-      return nullptr;
+      return reportAtExpression(at, Traits::kBoundsRow, i);
     }
     if (i >= 0 && i < count && j >= 0 && j < kWidth) return ScalarTerm::make(rows[static_cast<size_t>(i) * kWidth + j]);
-    reportAtExpression(at, Traits::kBoundsEntry, i, j);
-    return nullptr;
+    return reportAtExpression(at, Traits::kBoundsEntry, i, j);
   }
   if constexpr (!Traits::kAlwaysExpanded) {
     if (i == -1 && j == -1) {

@@ -30,10 +30,7 @@ Term* QvMFString::GetLumericValue(int i, int j, FieldExpression* at) {
     reportAt(at, "Cannot access the MFString field:  Not implemented");
     return nullptr;
   }
-  if (i < 0 || i >= num) {
-    reportAtExpression(at, "Bounds error: tried to access MFString[%d]", i);
-    return nullptr;
-  }
+  if (i < 0 || i >= num) return reportAtExpression(at, "Bounds error: tried to access MFString[%d]", i);
   return evaluateString(element(i));
 }
 

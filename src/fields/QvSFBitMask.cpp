@@ -46,10 +46,7 @@ QvField* QvSFBitMask::clone() {
 
 bool QvSFBitMask::lookUpFlag(QvSceneInput* in, QvAtom name, int& flag) {
   int entry = findName(name);
-  if (entry < 0) {
-    readError(in, "Unknown QvSFBitMask bit mask value \"%s\"", name.text());
-    return false;
-  }
+  if (entry < 0) return readError(in, "Unknown QvSFBitMask bit mask value \"%s\"", name.text());
   flag = enumValues[entry];
   return true;
 }
@@ -72,15 +69,9 @@ bool QvSFBitMask::readValue(QvSceneInput* in) {
       if (!lookUpFlag(in, name, flag)) return false;
       value |= flag;
     }
-    if (!in->readChar(c)) {
-      readError(in, "EOF reached before '%c' in QvSFBitMask value", ')');
-      return false;
-    }
+    if (!in->readChar(c)) return readError(in, "EOF reached before '%c' in QvSFBitMask value", ')');
     if (c == ')') return true;
-    if (c != '|') {
-      readError(in, "Expected '%c' or '%c', got '%c' in QvSFBitMask value", '|', ')', c);
-      return false;
-    }
+    if (c != '|') return readError(in, "Expected '%c' or '%c', got '%c' in QvSFBitMask value", '|', ')', c);
   }
 }
 

@@ -28,8 +28,7 @@ Term* QvSFColor::GetLumericValue(int i, int j, FieldExpression* at) {
     if (whole) return value;
     VectorTerm* vector = asVectorOf(value, 3);
     if (vector != nullptr && i >= 0 && i < 3) return ScalarTerm::make(vector->elements[i]);
-    reportAtExpression(at, "Bounds error: tried to access SFColor[%d]", i);
-    return nullptr;
+    return reportAtExpression(at, "Bounds error: tried to access SFColor[%d]", i);
   }
   double numbers[3];
   if (whole) {

@@ -41,10 +41,7 @@ bool QvSFEnum::readValue(QvSceneInput* in) {
   QvAtom name;
   if (!in->readName(name, QvSceneInput::kUpperName)) return false;
   int entry = findName(name);
-  if (entry < 0) {
-    readError(in, "Unknown QvSFEnum enumeration value \"%s\"", name.text());
-    return false;
-  }
+  if (entry < 0) return readError(in, "Unknown QvSFEnum enumeration value \"%s\"", name.text());
   value = enumValues[entry];
   return true;
 }

@@ -21,8 +21,7 @@ void QvSFImage::SetLumericValue(Term*, int, int, FieldExpression*) {
 }
 
 Term* QvSFImage::GetLumericValue(int, int, FieldExpression*) {
-  theContext.reportInFile("Not Implemented - SFImage::GetLumericValue");
-  return nullptr;
+  return theContext.reportInFile("Not Implemented - SFImage::GetLumericValue");
 }
 
 // A negative size or more than kMaxComponents components describes no

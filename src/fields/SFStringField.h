@@ -44,10 +44,7 @@ void SFStringField<Derived, Traits>::SetLumericValue(Term* term, int, int, Field
 
 template <class Derived, class Traits>
 Term* SFStringField<Derived, Traits>::GetLumericValue(int i, int, FieldExpression* at) {
-  if (i >= 1) {
-    reportAtExpression(at, Traits::kBounds, i);
-    return nullptr;
-  }
+  if (i >= 1) return reportAtExpression(at, Traits::kBounds, i);
   return Traits::evaluate(&value);
 }
 

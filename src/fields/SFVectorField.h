@@ -84,8 +84,7 @@ Term* SFVectorField<Derived, Traits>::GetLumericValue(int i, int j, FieldExpress
     }
     if (i >= 0 && i < kSize) return evaluateTerm(&values[i]);
   }
-  reportAtExpression(place, Traits::kBounds, i);
-  return nullptr;
+  return reportAtExpression(place, Traits::kBounds, i);
 }
 
 template <class Derived, class Traits>
