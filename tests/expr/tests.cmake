@@ -9,4 +9,5 @@ set(LUMERIC_EXPR_TESTS
   expr/FieldReferencesTest.cpp
 
   expr/PlainNumberTest.cpp
+  expr/TermArenaTest.cpp
 )
