@@ -72,7 +72,7 @@ int measure(long count) {
 
   start = std::chrono::steady_clock::now();
   {
-    SceneWriter out(sink);
+    lumeric::SceneWriter out(sink);
     list->write(out);
   }
   std::fflush(sink);
