@@ -8,11 +8,11 @@
 #include <atomic>
 #include <cstddef>
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/Evaluation.h"
 #include "expr/Term.h"
 #include "expr/TermArena.h"
-#include "reader/FieldExpression.h"
+#include "scene/FieldExpression.h"
 
 extern "C" {
 void* __libc_malloc(size_t size);

@@ -17,11 +17,12 @@
 #include <cstdlib>
 #include <vector>
 
-#include "driver/LibraryState.h"
-#include "driver/QvContext.h"
+#include "core/RunState.h"
+#include "core/QvContext.h"
 #include "expr/Term.h"
 #include "fields/QvMFVec3f.h"
 #include "reader/QvSceneInput.h"
+#include "writer/SceneWriter.h"
 
 namespace {
 
@@ -70,7 +71,10 @@ int measure(long count) {
   double readSeconds = secondsSince(start);
 
   start = std::chrono::steady_clock::now();
-  list->write(sink);
+  {
+    lumeric::SceneWriter out(sink);
+    list->write(out);
+  }
   std::fflush(sink);
   double writeSeconds = secondsSince(start);
   long peak = peakKilobytes();

@@ -5,7 +5,7 @@
 
 #include "cli/CommandLine.h"
 #include "cli/StderrView.h"
-#include "driver/LibraryState.h"
+#include "core/RunState.h"
 #include "driver/Translation.h"
 #include "lumeric/lumeric.h"
 

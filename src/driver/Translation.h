@@ -24,13 +24,6 @@ int translateScene(const char* inputPath, CReportErrorView* view, const char* di
                    const OutputOverride* output);
 int checkScene(const char* inputPath, CReportErrorView* view, const char* directory, const char* fileType);
 
-// Whether OUTPUT_TO may open a file in this run.
-bool outputMayBeChosenByScene();
-
-// The end-of-run clean-up: the name registry, the atom pool, the class field
-// tables and the terms.
-void endOfRunCleanUp();
-
 }  // namespace lumeric
 
 #endif  // LUMERIC_DRIVER_TRANSLATION_H

@@ -1,5 +1,4 @@
 set(LUMERIC_DRIVER_SOURCES
-  src/driver/QvContext.cpp
-  src/driver/LibraryState.cpp
+  src/driver/LibrarySetUp.cpp
   src/driver/Translation.cpp
 )

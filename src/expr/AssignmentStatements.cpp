@@ -1,9 +1,10 @@
 #include "expr/AssignmentStatements.h"
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/FieldReferences.h"
 #include "expr/TermConversions.h"
-#include "reader/QvField.h"
+#include "scene/QvField.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -11,7 +12,7 @@ namespace {
 
 QvField* targetField(const char* nodeName, const char* fieldName, FieldExpression* at) {
   QvField* field = findNodeField(nodeName, fieldName);
-  if (field == nullptr) theContext.reportAtExpression(at, "Field %s:%s not found", nodeName, fieldName);
+  if (field == nullptr) reportAtExpression(at, "Field %s:%s not found", nodeName, fieldName);
   return field;
 }
 
@@ -22,7 +23,7 @@ void setFieldValue(const char* nodeName, const char* fieldName, Term* first, Ter
   int i = -1;
   int j = -1;
   if ((first != nullptr && !indexFromTerm(first, &i)) || (second != nullptr && !indexFromTerm(second, &j))) {
-    theContext.reportAtExpression(at, "Scaler index value expected");
+    reportAtExpression(at, "Scaler index value expected");
     return;
   }
   if (QvField* field = targetField(nodeName, fieldName, at)) field->SetLumericValue(value, i, j, at);
@@ -40,7 +41,7 @@ void declareField(const char* nodeName, const char* fieldName, Term* value, Fiel
   } else if (ScalarTerm* count = asScalar(value)) {
     field->setCapacity(truncateToIndex(count->value), 0);
   } else {
-    theContext.reportAtExpression(at, "Cannot declare value using this expression");
+    reportAtExpression(at, "Cannot declare value using this expression");
   }
 }
 

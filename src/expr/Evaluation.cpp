@@ -3,12 +3,12 @@
 #include <cstring>
 #include <memory>
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/ExpressionLexer.h"
 #include "expr/NestedParse.h"
 #include "expr/ParseContext.h"
 #include "expr/TermArena.h"
-#include "reader/FieldExpression.h"
+#include "scene/FieldExpression.h"
 
 namespace lumeric {
 

@@ -17,7 +17,7 @@ namespace lumeric { struct ParseContext; }
 }
 
 %code {
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/AssignmentStatements.h"
 #include "expr/FieldReferences.h"
 #include "expr/FunctionCalls.h"

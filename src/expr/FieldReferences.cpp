@@ -2,14 +2,16 @@
 
 #include <cstdio>
 
-#include "driver/LibraryState.h"
-#include "driver/QvContext.h"
+#include "core/RunState.h"
+#include "core/QvContext.h"
 #include "expr/TermConversions.h"
-#include "reader/FieldExpression.h"
-#include "reader/QvField.h"
-#include "reader/QvFieldTable.h"
-#include "reader/QvNode.h"
-#include "reader/QvSceneInput.h"
+#include "scene/FieldExpression.h"
+#include "scene/QvField.h"
+#include "scene/QvFieldTable.h"
+#include "scene/NodeVisit.h"
+#include "scene/QvNode.h"
+#include "scene/QvDefTable.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -25,8 +27,7 @@ struct Selection {
 bool selectionFrom(Term* first, Term* second, Selection* selection, FieldExpression* at) {
   if ((first != nullptr && !indexFromTerm(first, &selection->i)) ||
       (second != nullptr && !indexFromTerm(second, &selection->j))) {
-    theContext.reportAtExpression(at, "Cannot use a term as an index");
-    return false;
+    return reportAtExpression(at, "Cannot use a term as an index");
   }
   selection->count = first == nullptr ? 0 : (second == nullptr ? 1 : 2);
   return true;
@@ -37,23 +38,20 @@ bool selectionFrom(Term* first, Term* second, Selection* selection, FieldExpress
 void reportUnusable(FieldExpression* at, const char* label, const Selection& selection, bool plainIsDefined) {
   switch (selection.count) {
     case 0:
-      theContext.reportAtExpression(at, plainIsDefined ? "%s is not defined" : "%s is not a valid element", label);
+      reportAtExpression(at, plainIsDefined ? "%s is not defined" : "%s is not a valid element", label);
       break;
     case 1:
-      theContext.reportAtExpression(at, "%s[%d] is not a valid element", label, selection.i);
+      reportAtExpression(at, "%s[%d] is not a valid element", label, selection.i);
       break;
     default:
-      theContext.reportAtExpression(at, "%s[%d][%d] is not a valid element", label, selection.i, selection.j);
+      reportAtExpression(at, "%s[%d][%d] is not a valid element", label, selection.i, selection.j);
       break;
   }
 }
 
 Term* valueOf(QvField* field, const char* label, const Selection& selection, bool plainIsDefined,
               FieldExpression* at) {
-  if (field == nullptr) {
-    theContext.reportAtExpression(at, "Field %s not found", label);
-    return nullptr;
-  }
+  if (field == nullptr) return reportAtExpression(at, "Field %s not found", label);
   Term* value = field->GetLumericValue(selection.i, selection.j, at);
   if (value == nullptr) reportUnusable(at, label, selection, plainIsDefined);
   return value;
@@ -68,15 +66,15 @@ QvField* findLocalField(QvNode* node, QvAtom name) {
 }
 
 QvField* findFieldInScope(QvAtom name) {
-  for (QvNode* node = theContext.topNode(); node != nullptr; node = node->parent) {
+  for (QvNode* node = theNodeStack.top(); node != nullptr; node = node->parent) {
     if (QvField* field = findLocalField(node, name)) return field;
   }
   return nullptr;
 }
 
 QvField* findNodeField(const char* nodeName, const char* fieldName) {
-  if (currentInput == nullptr) return nullptr;
-  QvNode* node = currentInput->findName(QvAtom(nodeName));
+  if (theRun.defNames == nullptr) return nullptr;
+  QvNode* node = theRun.defNames->findName(QvAtom(nodeName));
   return findLocalField(node, QvAtom(fieldName));
 }
 
@@ -107,12 +105,9 @@ Term* referToNodeField(const char* nodeName, const char* fieldName, Term* first,
 
 Term* localFieldValue(QvNode* node, const char* name, FieldExpression* at) {
   QvField* field = findLocalField(node, QvAtom(name));
-  if (field == nullptr) {
-    theContext.reportAtExpression(at, "Local Field %s not found", name);
-    return nullptr;
-  }
+  if (field == nullptr) return reportAtExpression(at, "Local Field %s not found", name);
   Term* value = field->GetLumericValue(-1, -1, at);
-  if (value == nullptr) theContext.reportAtExpression(at, "%s is not a valid element", name);
+  if (value == nullptr) reportAtExpression(at, "%s is not a valid element", name);
   return value;
 }
 

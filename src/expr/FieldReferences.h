@@ -5,7 +5,7 @@
 #ifndef LUMERIC_EXPR_FIELDREFERENCES_H
 #define LUMERIC_EXPR_FIELDREFERENCES_H
 
-#include "reader/QvAtom.h"
+#include "core/QvAtom.h"
 
 namespace lumeric {
 

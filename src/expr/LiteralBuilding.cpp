@@ -2,8 +2,9 @@
 
 #include <string>
 
-#include "driver/QvContext.h"
-#include "reader/NumberText.h"
+#include "core/QvContext.h"
+#include "core/NumberText.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -42,8 +43,7 @@ Term* appendToVector(Term* list, Term* item, FieldExpression* at) {
     pair->elements[1] = asScalar(item)->value;
     return pair;
   }
-  theContext.reportAtExpression(at, "Error in forming vector");
-  return nullptr;
+  return reportAtExpression(at, "Error in forming vector");
 }
 
 Term* appendMatrixRow(Term* tuple, Term* row, FieldExpression* at) {
@@ -64,8 +64,7 @@ Term* appendMatrixRow(Term* tuple, Term* row, FieldExpression* at) {
     for (int32_t j = 0; j < matrix->cols; ++j) matrix->at(rows, j) = last->elements[j];
     return matrix;
   }
-  theContext.reportAtExpression(at, "Error in forming matrix");
-  return nullptr;
+  return reportAtExpression(at, "Error in forming matrix");
 }
 
 StringTerm* appendFormattedValue(const StringTerm* name, const Term* value, FieldExpression* at) {
@@ -83,8 +82,7 @@ StringTerm* appendFormattedValue(const StringTerm* name, const Term* value, Fiel
     }
     text += ')';
   } else {
-    theContext.reportAtExpression(at, "Cannot format value for use with string expression");
-    return nullptr;
+    return reportAtExpression(at, "Cannot format value for use with string expression");
   }
   return StringTerm::make(text.c_str(), text.size());
 }

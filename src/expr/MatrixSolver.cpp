@@ -4,7 +4,8 @@
 #include <utility>
 #include <vector>
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -119,8 +120,7 @@ bool luSolve(int n, const double* a, const int* pivot, double* b) {
 
 Term* determinantOf(const MatrixTerm* m, FieldExpression* at) {
   if (!isSquare(m)) {
-    theContext.reportAtExpression(at, "Cannot compute the determinate of a %d x %d matrix", m->rows, m->cols);
-    return nullptr;
+    return reportAtExpression(at, "Cannot compute the determinate of a %d x %d matrix", m->rows, m->cols);
   }
   const int n = m->rows;
   std::vector<double> factors(m->elements, m->elements + static_cast<size_t>(n) * n);
@@ -128,7 +128,7 @@ Term* determinantOf(const MatrixTerm* m, FieldExpression* at) {
   double condition = 0.0;
   if (!luDecompose(n, factors.data(), pivot.data(), &condition)) return ScalarTerm::make(0.0);
   if (condition > kSingularCondition) {
-    theContext.reportAtExpression(at, "Cannot compute the determinate of singular matrix");
+    reportAtExpression(at, "Cannot compute the determinate of singular matrix");
     return ScalarTerm::make(0.0);
   }
   double determinant = pivot[n - 1];
@@ -137,10 +137,7 @@ Term* determinantOf(const MatrixTerm* m, FieldExpression* at) {
 }
 
 MatrixTerm* inverseOf(const MatrixTerm* m, FieldExpression* at) {
-  if (!isSquare(m)) {
-    theContext.reportAtExpression(at, "Cannot compute the inverse of a %d x %d matrix", m->rows, m->cols);
-    return nullptr;
-  }
+  if (!isSquare(m)) return reportAtExpression(at, "Cannot compute the inverse of a %d x %d matrix", m->rows, m->cols);
   const int n = m->rows;
   MatrixTerm* inverse = MatrixTerm::make(n, n);
   std::vector<double> factors(m->elements, m->elements + static_cast<size_t>(n) * n);
@@ -154,7 +151,7 @@ MatrixTerm* inverseOf(const MatrixTerm* m, FieldExpression* at) {
     for (int i = 0; solved && i < n; ++i) inverse->at(i, j) = column[i];
   }
   if (!solved) {
-    theContext.reportAtExpression(at, "Cannot compute the inverse of a matrix");
+    reportAtExpression(at, "Cannot compute the inverse of a matrix");
     for (size_t k = 0; k < static_cast<size_t>(n) * n; ++k) inverse->elements[k] = 0.0;
   }
   return inverse;

@@ -1,36 +1,26 @@
 #include "expr/NestedParse.h"
 
-#include "driver/QvContext.h"
+#include "core/RunState.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
-namespace {
-
-FieldExpression* parsesInProgress[NestedParse::kMaxNestedParses];
-int depth = 0;
-
-}  // namespace
-
 NestedParse::NestedParse(FieldExpression* expression) : admitted_(admit(expression)) {
-  if (admitted_) parsesInProgress[depth++] = expression;
+  if (admitted_) theRun.parsesInProgress[theRun.parseDepth++] = expression;
 }
 
 NestedParse::~NestedParse() {
-  if (admitted_) --depth;
+  if (admitted_) --theRun.parseDepth;
 }
 
-bool NestedParse::anyInProgress() { return depth > 0; }
+bool NestedParse::anyInProgress() { return theRun.parseDepth > 0; }
 
 bool NestedParse::admit(FieldExpression* expression) {
-  for (int k = 0; k < depth; ++k) {
-    if (parsesInProgress[k] == expression) {
-      theContext.reportAtExpression(expression, "Error: Circular reference");
-      return false;
-    }
+  for (int k = 0; k < theRun.parseDepth; ++k) {
+    if (theRun.parsesInProgress[k] == expression) return reportAtExpression(expression, "Error: Circular reference");
   }
-  if (depth == kMaxNestedParses) {
-    theContext.reportAtExpression(expression, "Error: Field references nested more than %d deep", kMaxNestedParses);
-    return false;
+  if (theRun.parseDepth == kMaxNestedParses) {
+    return reportAtExpression(expression, "Error: Field references nested more than %d deep", kMaxNestedParses);
   }
   return true;
 }

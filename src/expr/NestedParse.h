@@ -11,13 +11,15 @@
 #ifndef LUMERIC_EXPR_NESTEDPARSE_H
 #define LUMERIC_EXPR_NESTEDPARSE_H
 
+#include "core/RunState.h"
+
 namespace lumeric {
 
 class FieldExpression;
 
 class NestedParse {
  public:
-  static constexpr int kMaxNestedParses = 200;
+  static constexpr int kMaxNestedParses = lumeric::kMaxNestedParses;
 
   // Enters `expression` for the lifetime of this object, unless it is
   // already being parsed ("Error: Circular reference") or the nesting is

@@ -2,8 +2,9 @@
 
 #include <cstdio>
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/ExpressionLexer.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -38,7 +39,7 @@ void postReport(FieldExpression* at, const char* head, int found, const int* exp
   for (int k = 0; k < count && report.length() <= kLastAppendAt; ++k) {
     report.append("%s%s", k == 0 ? "" : " or ", ExpressionLexer::describeToken(expected[k]));
   }
-  theContext.reportAtExpression(at, "%s", report.text());
+  reportAtExpression(at, "%s", report.text());
 }
 
 }  // namespace

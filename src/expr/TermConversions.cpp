@@ -3,7 +3,8 @@
 #include <climits>
 #include <cmath>
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -32,40 +33,28 @@ void projectRow(const double* in, double* out) {
 }  // namespace
 
 VectorTerm* convertTo4D(const VectorTerm* v, FieldExpression* at) {
-  if (v->length != 3) {
-    theContext.reportAtExpression(at, "Cannot convert a %dD vector to a 4D vector", v->length);
-    return nullptr;
-  }
+  if (v->length != 3) return reportAtExpression(at, "Cannot convert a %dD vector to a 4D vector", v->length);
   VectorTerm* result = VectorTerm::make(4);
   extendRow(v->elements, result->elements);
   return result;
 }
 
 MatrixTerm* convertTo4D(const MatrixTerm* m, FieldExpression* at) {
-  if (m->cols != 3) {
-    theContext.reportAtExpression(at, "Cannot convert a %dD matrix to a 4D matrix", m->cols);
-    return nullptr;
-  }
+  if (m->cols != 3) return reportAtExpression(at, "Cannot convert a %dD matrix to a 4D matrix", m->cols);
   MatrixTerm* result = MatrixTerm::make(m->rows, 4);
   for (int32_t i = 0; i < m->rows; ++i) extendRow(&m->elements[3 * static_cast<size_t>(i)], &result->at(i, 0));
   return result;
 }
 
 VectorTerm* convertTo3D(const VectorTerm* v, FieldExpression* at) {
-  if (v->length != 4) {
-    theContext.reportAtExpression(at, "Cannot convert a %dD vector to a 3D vector", v->length);
-    return nullptr;
-  }
+  if (v->length != 4) return reportAtExpression(at, "Cannot convert a %dD vector to a 3D vector", v->length);
   VectorTerm* result = VectorTerm::make(3);
   projectRow(v->elements, result->elements);
   return result;
 }
 
 MatrixTerm* convertTo3D(const MatrixTerm* m, FieldExpression* at) {
-  if (m->cols != 4) {
-    theContext.reportAtExpression(at, "Cannot convert a %dD matrix to a 3D matrix", m->cols);
-    return nullptr;
-  }
+  if (m->cols != 4) return reportAtExpression(at, "Cannot convert a %dD matrix to a 3D matrix", m->cols);
   MatrixTerm* result = MatrixTerm::make(m->rows, 3);
   for (int32_t i = 0; i < m->rows; ++i) projectRow(&m->elements[4 * static_cast<size_t>(i)], &result->at(i, 0));
   return result;

@@ -1,6 +1,7 @@
 #include "expr/TermKernels.h"
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -47,40 +48,32 @@ MatrixTerm* combineMatrices(const MatrixTerm* a, const MatrixTerm* b, Operation 
 }  // namespace
 
 VectorTerm* addScalarToVector(double s, const VectorTerm* v, FieldExpression* at) {
-  if (v->length <= 0) {
-    theContext.reportAtExpression(at, "Cannot add a scaler to a %d length vector", v->length);
-    return nullptr;
-  }
+  if (v->length <= 0) return reportAtExpression(at, "Cannot add a scaler to a %d length vector", v->length);
   return mapVector(v, [s](double x) { return x + s; });
 }
 
 MatrixTerm* addScalarToMatrix(double s, const MatrixTerm* m, FieldExpression* at) {
-  if (isEmpty(m)) {
-    theContext.reportAtExpression(at, "Cannot add a scaler to a %d x %d matrix", m->rows, m->cols);
-    return nullptr;
-  }
+  if (isEmpty(m)) return reportAtExpression(at, "Cannot add a scaler to a %d x %d matrix", m->rows, m->cols);
   return mapMatrix(m, [s](double x) { return x + s; });
 }
 
 VectorTerm* addVectors(const VectorTerm* a, const VectorTerm* b, FieldExpression* at) {
   if (!sameLength(a, b)) {
-    theContext.reportAtExpression(at, "Cannot add a %d length vector to a %d length vector", a->length, b->length);
-    return nullptr;
+    return reportAtExpression(at, "Cannot add a %d length vector to a %d length vector", a->length, b->length);
   }
   return combineVectors(a, b, [](double x, double y) { return x + y; });
 }
 
 VectorTerm* subtractVectors(const VectorTerm* a, const VectorTerm* b, FieldExpression* at) {
   if (!sameLength(a, b)) {
-    theContext.reportAtExpression(at, "Cannot add a %d length vector to a %d length vector", a->length, b->length);
-    return nullptr;
+    return reportAtExpression(at, "Cannot add a %d length vector to a %d length vector", a->length, b->length);
   }
   return combineVectors(a, b, [](double x, double y) { return x - y; });
 }
 
 MatrixTerm* addMatrices(const MatrixTerm* a, const MatrixTerm* b, FieldExpression* at) {
   if (!sameShape(a, b)) {
-    theContext.reportAtExpression(at, "Cannot add a %d x %d matrix to a %d by %d matrix", a->rows, a->cols, b->rows,
+    reportAtExpression(at, "Cannot add a %d x %d matrix to a %d by %d matrix", a->rows, a->cols, b->rows,
                                   b->cols);
     return nullptr;
   }
@@ -89,7 +82,7 @@ MatrixTerm* addMatrices(const MatrixTerm* a, const MatrixTerm* b, FieldExpressio
 
 MatrixTerm* subtractMatrices(const MatrixTerm* a, const MatrixTerm* b, FieldExpression* at) {
   if (!sameShape(a, b)) {
-    theContext.reportAtExpression(at, "Cannot add a %d x %d matrix to a %d by %d matrix", a->rows, a->cols, b->rows,
+    reportAtExpression(at, "Cannot add a %d x %d matrix to a %d by %d matrix", a->rows, a->cols, b->rows,
                                   b->cols);
     return nullptr;
   }
@@ -97,24 +90,18 @@ MatrixTerm* subtractMatrices(const MatrixTerm* a, const MatrixTerm* b, FieldExpr
 }
 
 VectorTerm* scaleVector(double s, const VectorTerm* v, FieldExpression* at) {
-  if (v->length <= 0) {
-    theContext.reportAtExpression(at, "Cannot multiply a %d length vector by a scaler", v->length);
-    return nullptr;
-  }
+  if (v->length <= 0) return reportAtExpression(at, "Cannot multiply a %d length vector by a scaler", v->length);
   return mapVector(v, [s](double x) { return x * s; });
 }
 
 MatrixTerm* scaleMatrix(double s, const MatrixTerm* m, FieldExpression* at) {
-  if (isEmpty(m)) {
-    theContext.reportAtExpression(at, "Cannot multiply a %d x %d matrix by a scaler", m->rows, m->cols);
-    return nullptr;
-  }
+  if (isEmpty(m)) return reportAtExpression(at, "Cannot multiply a %d x %d matrix by a scaler", m->rows, m->cols);
   return mapMatrix(m, [s](double x) { return x * s; });
 }
 
 VectorTerm* multiplyVectors(const VectorTerm* a, const VectorTerm* b, FieldExpression* at) {
   if (!sameLength(a, b)) {
-    theContext.reportAtExpression(at, "Cannot multiply a %d length vector by a %d length vector", a->length,
+    reportAtExpression(at, "Cannot multiply a %d length vector by a %d length vector", a->length,
                                   b->length);
     return nullptr;
   }
@@ -123,7 +110,7 @@ VectorTerm* multiplyVectors(const VectorTerm* a, const VectorTerm* b, FieldExpre
 
 MatrixTerm* multiplyMatrices(const MatrixTerm* a, const MatrixTerm* b, FieldExpression* at) {
   if (isEmpty(a) || isEmpty(b) || b->rows != a->cols) {
-    theContext.reportAtExpression(at, "Cannot multiply a %d x %d matrix by a %d by %d matrix", a->rows, a->cols,
+    reportAtExpression(at, "Cannot multiply a %d x %d matrix by a %d by %d matrix", a->rows, a->cols,
                                   b->rows, b->cols);
     return nullptr;
   }

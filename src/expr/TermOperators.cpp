@@ -2,21 +2,21 @@
 
 #include <cmath>
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/TermKernels.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
 namespace {
 
 Term* fail(FieldExpression* at, const char* message) {
-  theContext.reportAtExpression(at, "%s", message);
-  return nullptr;
+  return reportAtExpression(at, "%s", message);
 }
 
 // Division and remainder by zero are reported but do not fail.
 Term* dividedByZero(FieldExpression* at) {
-  theContext.reportAtExpression(at, "Attempt to divide by 0.0");
+  reportAtExpression(at, "Attempt to divide by 0.0");
   return ScalarTerm::make(0.0);
 }
 

@@ -6,6 +6,7 @@
 
 #include "fields/FieldSupport.h"
 #include "reader/QvSceneInput.h"
+#include "reader/ReadErrors.h"
 
 namespace lumeric {
 
@@ -76,6 +77,39 @@ int ExpressionListField::extend(int count) {
   int first = num;
   allocValues(num + count);
   return first;
+}
+
+bool ExpressionListField::readValue(QvSceneInput* in) {
+  char c;
+  bool gotChar = in->readChar(c);
+  if (!gotChar || c != '[') {
+    if (gotChar) in->putBackChar(c);
+    setNum(1);
+    return readElement(in, 0);
+  }
+  if (in->readChar(c)) {
+    if (c == ']') {
+      setNum(0);
+      return true;
+    }
+    in->putBackChar(c);
+  }
+  int n = 0;
+  for (;;) {
+    if (num <= n) setNum(n + 1);
+    bool elementRead = readElement(in, n);
+    ++n;
+    if (!elementRead) return readError(in, "Couldn't read value %d of field", n);
+    if (!in->readChar(c)) return readError(in, "Couldn't read value %d of field", n);
+    if (c == ']') break;
+    if (c != ',') return readError(in, "Expected '%c' or '%c' but got '%c' while reading value %d", ',', ']', c, n);
+    if (in->peekChar(']')) {
+      in->readChar(c);
+      break;
+    }
+  }
+  if (num > n) setNum(n);
+  return true;
 }
 
 }  // namespace lumeric

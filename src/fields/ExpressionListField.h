@@ -6,7 +6,7 @@
 #define LUMERIC_FIELDS_EXPRESSIONLISTFIELD_H
 
 #include "fields/ExpressionStore.h"
-#include "reader/QvField.h"
+#include "scene/QvField.h"
 
 namespace lumeric {
 
@@ -20,6 +20,8 @@ class ExpressionListField : public QvMultiField {
   void allocValues(int count) override;
   // attachOwner on every expression of the first num elements.
   void attachNode(QvNode* node) override;
+  // A single value, or values between "[" and "]" separated by ",".
+  bool readValue(QvSceneInput* in) override;
 
   // The expressions of element `index` (0 <= index < num), width() of them.
   FieldExpression* element(int index) { return values.element(index); }

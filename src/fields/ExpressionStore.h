@@ -14,7 +14,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "reader/FieldExpression.h"
+#include "scene/FieldExpression.h"
 
 namespace lumeric {
 

@@ -1,5 +1,5 @@
-// The field factory: a new field from its type name, for the fields a node
-// declares in the file with "fields [ ... ]" or "field".
+#include "fields/FieldFactory.h"
+
 #include <cstring>
 
 #include "fields/QvMFColor.h"
@@ -23,7 +23,7 @@
 #include "fields/QvSFVec2f.h"
 #include "fields/QvSFVec3f.h"
 #include "fields/QvSFVec4f.h"
-#include "reader/QvFieldTable.h"
+#include "core/QvAtom.h"
 
 namespace lumeric {
 

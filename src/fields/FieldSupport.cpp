@@ -5,11 +5,9 @@
 #include <cstring>
 #include <string>
 
-#include "driver/LibraryState.h"
-#include "driver/QvContext.h"
 #include "expr/Evaluation.h"
-#include "reader/FieldExpression.h"
-#include "reader/NumberText.h"
+#include "scene/FieldExpression.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -64,53 +62,6 @@ MatrixTerm* makeMatrix(const double* values, int rows, int cols) {
     std::memcpy(term->elements, values, sizeof(double) * static_cast<size_t>(rows) * static_cast<size_t>(cols));
   }
   return term;
-}
-
-void reportAt(const FieldExpression* at, const char* message) {
-  theContext.reportAtExpression(at, "%s", message);
-}
-
-OutputText& OutputText::text(const char* s) {
-  size_t length = std::strlen(s);
-  if (length > sizeof buffer_ / 2) {
-    flush();
-    std::fwrite(s, 1, length, out_);
-    return *this;
-  }
-  makeRoom(length);
-  std::memcpy(buffer_ + used_, s, length);
-  used_ += length;
-  return *this;
-}
-
-OutputText& OutputText::character(char c) {
-  makeRoom(1);
-  buffer_[used_++] = c;
-  return *this;
-}
-
-OutputText& OutputText::number(double v) {
-  makeRoom(kNumberTextSize);
-  used_ += static_cast<size_t>(formatNumber(buffer_ + used_, v));
-  return *this;
-}
-
-OutputText& OutputText::rounded(double v) { return number(roundToPrecision(v)); }
-
-OutputText& OutputText::integer(long v) {
-  makeRoom(kNumberTextSize);
-  used_ += static_cast<size_t>(formatInteger(buffer_ + used_, v));
-  return *this;
-}
-
-OutputText& OutputText::indentation() {
-  for (int k = 0; k < theContext.indentLevel; ++k) character('\t');
-  return *this;
-}
-
-void OutputText::flush() {
-  if (used_ > 0) std::fwrite(buffer_, 1, used_, out_);
-  used_ = 0;
 }
 
 }  // namespace lumeric

@@ -7,17 +7,18 @@
 //   kTypeName,
 //   kCannotSet (the whole list), kCannotSetEntry (a call with a second
 //     index), kCannotAppend, kBounds (a format with the index),
-//   static void writeItem(OutputText&, double): one number as written.
+//   static void writeItem(SceneWriter&, double): one number as written.
 // The message texts are used exactly as they stand, trailing blanks included.
 #ifndef LUMERIC_FIELDS_MFNUMBERFIELD_H
 #define LUMERIC_FIELDS_MFNUMBERFIELD_H
 
 #include <vector>
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/Evaluation.h"
 #include "fields/ExpressionListField.h"
 #include "fields/FieldSupport.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -33,7 +34,7 @@ class MFNumberField : public ExpressionListField {
   void appendValue(Term* value, FieldExpression* at) override;
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
-  void write(FILE* out) override;
+  void write(SceneWriter& out) override;
   QvField* clone() override;
   bool readElement(QvSceneInput* in, int index) override { return readTexts(in, index, true); }
   void copyValueFrom(QvField* source) override;
@@ -49,7 +50,7 @@ class MFNumberField : public ExpressionListField {
   void storeFrom(int first, const double* numbers, int count);
   // Writes `count` numbers in the list layout; item(k) gives number k.
   template <class ItemSource>
-  void writeItems(FILE* out, int count, ItemSource item);
+  void writeItems(SceneWriter& out, int count, ItemSource item);
 };
 
 template <class Derived, class Traits>
@@ -99,8 +100,7 @@ Term* MFNumberField<Derived, Traits>::GetLumericValue(int i, int j, FieldExpress
     int count = static_cast<int>(numbers.size());
     if (i == -1) return makeVector(numbers.data(), count);
     if (i >= 0 && i < count) return ScalarTerm::make(numbers[static_cast<size_t>(i)]);
-    theContext.reportAtExpression(at, Traits::kBounds, i);
-    return nullptr;
+    return reportAtExpression(at, Traits::kBounds, i);
   }
   if (i == -1 && j == -1) {
     VectorTerm* vector = VectorTerm::make(num);
@@ -108,7 +108,7 @@ Term* MFNumberField<Derived, Traits>::GetLumericValue(int i, int j, FieldExpress
     return vector;
   }
   if (i >= 0 && i < num) return ScalarTerm::make(numberAt(i, 0));
-  theContext.reportAtExpression(at, Traits::kBounds, i);
+  reportAtExpression(at, Traits::kBounds, i);
   return ScalarTerm::make(0);
 }
 
@@ -136,7 +136,7 @@ void MFNumberField<Derived, Traits>::expand(std::vector<double>& numbers) {
 }
 
 template <class Derived, class Traits>
-void MFNumberField<Derived, Traits>::write(FILE* out) {
+void MFNumberField<Derived, Traits>::write(SceneWriter& out) {
   if (isExpression) {
     std::vector<double> numbers;
     expand(numbers);
@@ -151,28 +151,8 @@ void MFNumberField<Derived, Traits>::write(FILE* out) {
 // kItemsPerLine items to a line, each line started with its tabs.
 template <class Derived, class Traits>
 template <class ItemSource>
-void MFNumberField<Derived, Traits>::writeItems(FILE* out, int count, ItemSource item) {
-  OutputText text(out);
-  if (count == 0) {
-    text.text(" [ ]\n");
-    return;
-  }
-  if (count == 1) {
-    text.character(' ');
-    Traits::writeItem(text, item(0));
-    text.character('\n');
-    return;
-  }
-  text.text(" [");
-  ++theContext.indentLevel;
-  for (int k = 0; k < count; ++k) {
-    if (k > 0 && k % kItemsPerLine == 0) text.character('\n').indentation();
-    text.character(' ');
-    Traits::writeItem(text, item(k));
-    if (k + 1 < count) text.character(',');
-  }
-  --theContext.indentLevel;
-  text.text(" ]\n");
+void MFNumberField<Derived, Traits>::writeItems(SceneWriter& out, int count, ItemSource item) {
+  out.list(count, ListLayout{kItemsPerLine, true, false}, [&](int k) { Traits::writeItem(out, item(k)); });
 }
 
 template <class Derived, class Traits>

@@ -21,10 +21,11 @@
 
 #include <vector>
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/Evaluation.h"
 #include "fields/ExpressionListField.h"
 #include "fields/FieldSupport.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -39,7 +40,7 @@ class MFVectorField : public ExpressionListField {
   void appendValue(Term* value, FieldExpression* at) override;
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
-  void write(FILE* out) override;
+  void write(SceneWriter& out) override;
   QvField* clone() override;
   bool readElement(QvSceneInput* in, int index) override { return readTexts(in, index, true); }
   void copyValueFrom(QvField* source) override;
@@ -61,7 +62,7 @@ class MFVectorField : public ExpressionListField {
   void storeRows(int first, const double* numbers, int count);
   // Writes `count` rows in the list layout; row(r, numbers) gives row r.
   template <class RowSource>
-  void writeRows(FILE* out, int count, RowSource row);
+  void writeRows(SceneWriter& out, int count, RowSource row);
 };
 
 template <class Derived, class Traits>
@@ -123,12 +124,10 @@ Term* MFVectorField<Derived, Traits>::GetLumericValue(int i, int j, FieldExpress
     if (i == -1 && j == -1) return makeMatrix(rows.data(), count, kWidth);
     if (j == -1) {
       if (i >= 0 && i < count) return makeVector(&rows[static_cast<size_t>(i) * kWidth], kWidth);
-      theContext.reportAtExpression(at, Traits::kBoundsRow, i);
-      return nullptr;
+      return reportAtExpression(at, Traits::kBoundsRow, i);
     }
     if (i >= 0 && i < count && j >= 0 && j < kWidth) return ScalarTerm::make(rows[static_cast<size_t>(i) * kWidth + j]);
-    theContext.reportAtExpression(at, Traits::kBoundsEntry, i, j);
-    return nullptr;
+    return reportAtExpression(at, Traits::kBoundsEntry, i, j);
   }
   if constexpr (!Traits::kAlwaysExpanded) {
     if (i == -1 && j == -1) {
@@ -143,7 +142,7 @@ Term* MFVectorField<Derived, Traits>::GetLumericValue(int i, int j, FieldExpress
       for (int k = 0; k < kWidth; ++k) numbers[k] = numberAt(i, k);
       return makeVector(numbers, kWidth);
     }
-    theContext.reportAtExpression(at, Traits::kBoundsElement, i);
+    reportAtExpression(at, Traits::kBoundsElement, i);
   }
   return nullptr;
 }
@@ -177,7 +176,7 @@ void MFVectorField<Derived, Traits>::expand(std::vector<double>& rows) {
 // with expression elements needs its expanded row count first.  For a
 // plain list the two are the same rows.
 template <class Derived, class Traits>
-void MFVectorField<Derived, Traits>::write(FILE* out) {
+void MFVectorField<Derived, Traits>::write(SceneWriter& out) {
   if (isExpression) {
     std::vector<double> rows;
     expand(rows);
@@ -193,41 +192,19 @@ void MFVectorField<Derived, Traits>::write(FILE* out) {
 
 template <class Derived, class Traits>
 template <class RowSource>
-void MFVectorField<Derived, Traits>::writeRows(FILE* out, int count, RowSource row) {
-  OutputText text(out);
-  if (count == 0) {
-    text.text(" [ ]\n");
-    return;
-  }
-  auto writeNumbers = [&text](const double* numbers) {
+void MFVectorField<Derived, Traits>::writeRows(SceneWriter& out, int count, RowSource row) {
+  out.list(count, kOneItemPerLine, [&](int r) {
+    double numbers[kWidth];
+    row(r, numbers);
     for (int k = 0; k < kWidth; ++k) {
-      if (k > 0) text.character(' ');
+      if (k > 0) out.character(' ');
       if (Traits::kRounded) {
-        text.rounded(numbers[k]);
+        out.rounded(numbers[k]);
       } else {
-        text.number(numbers[k]);
+        out.number(numbers[k]);
       }
     }
-  };
-  double numbers[kWidth];
-  row(0, numbers);
-  if (count == 1) {
-    text.character(' ');
-    writeNumbers(numbers);
-    text.character('\n');
-    return;
-  }
-  text.text(" [ ");
-  writeNumbers(numbers);
-  text.text(",\n");
-  ++theContext.indentLevel;
-  for (int r = 1; r < count; ++r) {
-    row(r, numbers);
-    text.indentation();
-    writeNumbers(numbers);
-    text.text(r + 1 < count ? ",\n" : " ]\n");
-  }
-  --theContext.indentLevel;
+  });
 }
 
 template <class Derived, class Traits>

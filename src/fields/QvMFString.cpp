@@ -1,8 +1,9 @@
 #include "fields/QvMFString.h"
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/Evaluation.h"
 #include "fields/FieldSupport.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -29,42 +30,17 @@ Term* QvMFString::GetLumericValue(int i, int j, FieldExpression* at) {
     reportAt(at, "Cannot access the MFString field:  Not implemented");
     return nullptr;
   }
-  if (i < 0 || i >= num) {
-    theContext.reportAtExpression(at, "Bounds error: tried to access MFString[%d]", i);
-    return nullptr;
-  }
+  if (i < 0 || i >= num) return reportAtExpression(at, "Bounds error: tried to access MFString[%d]", i);
   return evaluateString(element(i));
 }
 
 // An element that does not evaluate to a string is written as the empty
 // string "", so that the list stays well formed and keeps its length.
-void QvMFString::write(FILE* out) {
-  OutputText text(out);
-  int count = num;
-  if (count == 0) {
-    text.text(" [ ]\n");
-    return;
-  }
-  auto writeElement = [this, &text](int i) {
+void QvMFString::write(SceneWriter& out) {
+  out.list(num, kOneItemPerLine, [this, &out](int i) {
     StringTerm* string = i < num ? evaluateString(element(i)) : nullptr;
-    text.character('"').text(string != nullptr && string->text != nullptr ? string->text : "").character('"');
-  };
-  if (count == 1) {
-    text.character(' ');
-    writeElement(0);
-    text.character('\n');
-    return;
-  }
-  text.text(" [ ");
-  writeElement(0);
-  text.text(",\n");
-  ++theContext.indentLevel;
-  for (int i = 1; i < count; ++i) {
-    text.indentation();
-    writeElement(i);
-    text.text(i + 1 < count ? ",\n" : " ]\n");
-  }
-  --theContext.indentLevel;
+    out.character('"').text(string != nullptr && string->text != nullptr ? string->text : "").character('"');
+  });
 }
 
 QvField* QvMFString::clone() {

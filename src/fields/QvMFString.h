@@ -18,7 +18,7 @@ class QvMFString : public ExpressionListField {
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   // Element i's string, or null; the whole list cannot be asked for.
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
-  void write(FILE* out) override;
+  void write(SceneWriter& out) override;
   QvField* clone() override;
   // One value text; "=" has no meaning here.
   bool readElement(QvSceneInput* in, int index) override { return readTexts(in, index, false); }

@@ -1,8 +1,10 @@
 #include "fields/QvSFBitMask.h"
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "fields/FieldSupport.h"
 #include "reader/QvSceneInput.h"
+#include "reader/ReadErrors.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -19,22 +21,21 @@ Term* QvSFBitMask::GetLumericValue(int, int, FieldExpression* at) {
 // entirely, so that reading the text back gives the same value: SIDES and
 // BOTTOM of a cylinder are written as those two, without the ALL that would
 // also bring TOP.  Entries without flags are never listed.
-void QvSFBitMask::write(FILE* out) {
-  OutputText text(out);
+void QvSFBitMask::write(SceneWriter& out) {
   int entry = findValue(value);
   if (entry >= 0) {
-    text.character(' ').text(enumNames[entry].text()).character('\n');
+    out.character(' ').text(enumNames[entry].text()).character('\n');
     return;
   }
-  text.text(" ( ");
+  out.text(" ( ");
   bool first = true;
   for (int k = 0; k < numEnums; ++k) {
     if (enumValues[k] == 0 || (enumValues[k] & value) != enumValues[k]) continue;
-    if (!first) text.text(" | ");
-    text.text(enumNames[k].text());
+    if (!first) out.text(" | ");
+    out.text(enumNames[k].text());
     first = false;
   }
-  text.text(" )\n");
+  out.text(" )\n");
 }
 
 QvField* QvSFBitMask::clone() {
@@ -45,10 +46,7 @@ QvField* QvSFBitMask::clone() {
 
 bool QvSFBitMask::lookUpFlag(QvSceneInput* in, QvAtom name, int& flag) {
   int entry = findName(name);
-  if (entry < 0) {
-    theContext.readError(in, "Unknown QvSFBitMask bit mask value \"%s\"", name.text());
-    return false;
-  }
+  if (entry < 0) return readError(in, "Unknown QvSFBitMask bit mask value \"%s\"", name.text());
   flag = enumValues[entry];
   return true;
 }
@@ -71,15 +69,9 @@ bool QvSFBitMask::readValue(QvSceneInput* in) {
       if (!lookUpFlag(in, name, flag)) return false;
       value |= flag;
     }
-    if (!in->readChar(c)) {
-      theContext.readError(in, "EOF reached before '%c' in QvSFBitMask value", ')');
-      return false;
-    }
+    if (!in->readChar(c)) return readError(in, "EOF reached before '%c' in QvSFBitMask value", ')');
     if (c == ')') return true;
-    if (c != '|') {
-      theContext.readError(in, "Expected '%c' or '%c', got '%c' in QvSFBitMask value", '|', ')', c);
-      return false;
-    }
+    if (c != '|') return readError(in, "Expected '%c' or '%c', got '%c' in QvSFBitMask value", '|', ')', c);
   }
 }
 

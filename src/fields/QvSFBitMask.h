@@ -14,7 +14,7 @@ class QvSFBitMask : public QvSFEnum {
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   // One name when an entry holds exactly `value`; otherwise " ( ", the
   // entries sharing a bit with `value` joined by " | ", " )\n".
-  void write(FILE* out) override;
+  void write(SceneWriter& out) override;
   QvField* clone() override;
   bool readValue(QvSceneInput* in) override;
 

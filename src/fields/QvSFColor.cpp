@@ -1,7 +1,8 @@
 #include "fields/QvSFColor.h"
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/Evaluation.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -27,8 +28,7 @@ Term* QvSFColor::GetLumericValue(int i, int j, FieldExpression* at) {
     if (whole) return value;
     VectorTerm* vector = asVectorOf(value, 3);
     if (vector != nullptr && i >= 0 && i < 3) return ScalarTerm::make(vector->elements[i]);
-    theContext.reportAtExpression(at, "Bounds error: tried to access SFColor[%d]", i);
-    return nullptr;
+    return reportAtExpression(at, "Bounds error: tried to access SFColor[%d]", i);
   }
   double numbers[3];
   if (whole) {
@@ -36,11 +36,11 @@ Term* QvSFColor::GetLumericValue(int i, int j, FieldExpression* at) {
     return makeVector(numbers, 3);
   }
   if (i >= 0 && i < 3) return ScalarTerm::make(numberOf(values[i]));
-  theContext.reportAtExpression(at, "Bounds error: tried to access SFColor[%d]", i);
+  reportAtExpression(at, "Bounds error: tried to access SFColor[%d]", i);
   return ScalarTerm::make(0);
 }
 
-void QvSFColor::write(FILE* out) {
+void QvSFColor::write(SceneWriter& out) {
   double numbers[3];
   if (isExpression) {
     VectorTerm* vector = asVectorOf(evaluateTerm(&wholeExpression), 3);
@@ -49,9 +49,8 @@ void QvSFColor::write(FILE* out) {
   } else {
     componentNumbers(numbers);
   }
-  OutputText text(out);
-  for (int k = 0; k < 3; ++k) text.character(' ').number(numbers[k]);
-  text.character('\n');
+  for (int k = 0; k < 3; ++k) out.character(' ').number(numbers[k]);
+  out.character('\n');
 }
 
 QvField* QvSFColor::clone() {

@@ -14,7 +14,7 @@ class QvSFColor : public WholeExpressionField<3> {
   const char* getTypeName() const override { return "SFColor"; }
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
-  void write(FILE* out) override;
+  void write(SceneWriter& out) override;
   QvField* clone() override;
   void copyValueFrom(QvField* source) override;
 

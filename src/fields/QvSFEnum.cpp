@@ -1,8 +1,10 @@
 #include "fields/QvSFEnum.h"
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "fields/FieldSupport.h"
 #include "reader/QvSceneInput.h"
+#include "reader/ReadErrors.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -18,16 +20,15 @@ Term* QvSFEnum::GetLumericValue(int, int, FieldExpression* at) {
 // A value that no entry holds (an enumeration field of a node whose class
 // is not built in has no entries at all) is written as its number, so that
 // the line still ends.
-void QvSFEnum::write(FILE* out) {
-  OutputText text(out);
+void QvSFEnum::write(SceneWriter& out) {
   int entry = findValue(value);
-  text.character(' ');
+  out.character(' ');
   if (entry >= 0) {
-    text.text(enumNames[entry].text());
+    out.text(enumNames[entry].text());
   } else {
-    text.integer(value);
+    out.integer(value);
   }
-  text.character('\n');
+  out.character('\n');
 }
 
 QvField* QvSFEnum::clone() {
@@ -40,10 +41,7 @@ bool QvSFEnum::readValue(QvSceneInput* in) {
   QvAtom name;
   if (!in->readName(name, QvSceneInput::kUpperName)) return false;
   int entry = findName(name);
-  if (entry < 0) {
-    theContext.readError(in, "Unknown QvSFEnum enumeration value \"%s\"", name.text());
-    return false;
-  }
+  if (entry < 0) return readError(in, "Unknown QvSFEnum enumeration value \"%s\"", name.text());
   value = enumValues[entry];
   return true;
 }

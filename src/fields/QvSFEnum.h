@@ -6,8 +6,8 @@
 
 #include <cstdint>
 
-#include "reader/QvAtom.h"
-#include "reader/QvField.h"
+#include "core/QvAtom.h"
+#include "scene/QvField.h"
 
 namespace lumeric {
 
@@ -18,7 +18,7 @@ class QvSFEnum : public QvSingleField {
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   // " %s\n" with the name of the first entry holding `value`.
-  void write(FILE* out) override;
+  void write(SceneWriter& out) override;
   QvField* clone() override;
   // One upper-case name, looked up among the entries.
   bool readValue(QvSceneInput* in) override;

@@ -14,7 +14,7 @@ struct QvSFFloatTraits {
   // Worded like the bounds errors of SFLong and SFBool.
   static constexpr const char* kBounds = "Bounds error: tried to access SFFloat[%d]";
   static constexpr bool kGetGivesNumber = false;
-  static void writeValue(OutputText& text, double v) { text.rounded(v).character('\n'); }
+  static void writeValue(SceneWriter& text, double v) { text.rounded(v).character('\n'); }
 };
 
 extern template class SFNumberField<QvSFFloat, QvSFFloatTraits>;

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "fields/FieldSupport.h"
 #include "reader/QvSceneInput.h"
 
@@ -21,8 +21,7 @@ void QvSFImage::SetLumericValue(Term*, int, int, FieldExpression*) {
 }
 
 Term* QvSFImage::GetLumericValue(int, int, FieldExpression*) {
-  theContext.reportInFile("Not Implemented - SFImage::GetLumericValue");
-  return nullptr;
+  return theContext.reportInFile("Not Implemented - SFImage::GetLumericValue");
 }
 
 // A negative size or more than kMaxComponents components describes no
@@ -53,32 +52,30 @@ bool QvSFImage::readValue(QvSceneInput* in) {
 // component up to "0x%8.8x" for four), most significant byte first, so that
 // the text reads back to the same bytes.  Pixels without components are
 // written 0x00.
-void QvSFImage::write(FILE* out) {
-  OutputText text(out);
-  text.character(' ').integer(width).character(' ').integer(height).character(' ').integer(numComponents);
-  text.character('\n');
+void QvSFImage::write(SceneWriter& out) {
+  out.character(' ').integer(width).character(' ').integer(height).character(' ').integer(numComponents);
+  out.character('\n');
   size_t pixels = static_cast<size_t>(width) * height;
   if (pixels == 0) return;
   static const char kHexDigits[] = "0123456789abcdef";
   size_t perPixel = static_cast<size_t>(numComponents);
-  ++theContext.indentLevel;
+  SceneWriter::Deeper deeper(out);
   for (size_t p = 0; p < pixels; ++p) {
     bool lineStart = p % kPixelsPerLine == 0;
     if (lineStart) {
-      text.indentation();
+      out.indentation();
     } else {
-      text.character(' ');
+      out.character(' ');
     }
-    text.text("0x");
-    if (perPixel == 0) text.text("00");
+    out.text("0x");
+    if (perPixel == 0) out.text("00");
     for (size_t k = 0; k < perPixel; ++k) {
       size_t index = p * perPixel + k;
       uint8_t byte = index < bytes.size() ? bytes[index] : 0;
-      text.character(kHexDigits[byte >> 4]).character(kHexDigits[byte & 15]);
+      out.character(kHexDigits[byte >> 4]).character(kHexDigits[byte & 15]);
     }
-    if (p + 1 == pixels || (p + 1) % kPixelsPerLine == 0) text.character('\n');
+    if (p + 1 == pixels || (p + 1) % kPixelsPerLine == 0) out.character('\n');
   }
-  --theContext.indentLevel;
 }
 
 QvField* QvSFImage::clone() {

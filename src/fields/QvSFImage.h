@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "reader/QvField.h"
+#include "scene/QvField.h"
 
 namespace lumeric {
 
@@ -23,7 +23,7 @@ class QvSFImage : public QvSingleField {
   // Not available for images: report in the file; the get gives null.
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
-  void write(FILE* out) override;
+  void write(SceneWriter& out) override;
   QvField* clone() override;
   bool readValue(QvSceneInput* in) override;
   void copyValueFrom(QvField* source) override;

@@ -14,7 +14,7 @@ struct QvSFLongTraits {
   static constexpr const char* kCannotSet = "Cannot set SFLong using this value";
   static constexpr const char* kBounds = "Bounds error: tried to access SFLong[%d]";
   static constexpr bool kGetGivesNumber = false;
-  static void writeValue(OutputText& text, double v) { text.integer(truncateToInt(v)).character('\n'); }
+  static void writeValue(SceneWriter& text, double v) { text.integer(truncateToInt(v)).character('\n'); }
 };
 
 extern template class SFNumberField<QvSFLong, QvSFLongTraits>;

@@ -1,7 +1,8 @@
 #include "fields/QvSFMatrix.h"
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/Evaluation.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -52,11 +53,11 @@ Term* QvSFMatrix::GetLumericValue(int i, int j, FieldExpression* at) {
     }
     if (inMatrix(i, j)) return ScalarTerm::make(numberOf(values[4 * i + j]));
   }
-  theContext.reportAtExpression(at, "Bounds error: tried to access SFMatrix[%d][%d]", i, j);
+  reportAtExpression(at, "Bounds error: tried to access SFMatrix[%d][%d]", i, j);
   return ScalarTerm::make(0);
 }
 
-void QvSFMatrix::write(FILE* out) {
+void QvSFMatrix::write(SceneWriter& out) {
   double numbers[16];
   if (isExpression) {
     MatrixTerm* matrix = evaluateWhole();
@@ -65,16 +66,14 @@ void QvSFMatrix::write(FILE* out) {
   } else {
     componentNumbers(numbers);
   }
-  OutputText text(out);
-  ++theContext.indentLevel;
+  SceneWriter::Deeper deeper(out);
   // Every row, the first included, starts with a blank: after the field
   // name on the first line and after the tabs on the others.
   for (int row = 0; row < 4; ++row) {
-    if (row > 0) text.indentation();
-    text.character(' ');
-    for (int col = 0; col < 4; ++col) text.number(numbers[4 * row + col]).character(col < 3 ? ' ' : '\n');
+    if (row > 0) out.indentation();
+    out.character(' ');
+    for (int col = 0; col < 4; ++col) out.number(numbers[4 * row + col]).character(col < 3 ? ' ' : '\n');
   }
-  --theContext.indentLevel;
 }
 
 QvField* QvSFMatrix::clone() {

@@ -15,7 +15,7 @@ class QvSFMatrix : public WholeExpressionField<16> {
   const char* getTypeName() const override { return "SFMatrix"; }
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
-  void write(FILE* out) override;
+  void write(SceneWriter& out) override;
   QvField* clone() override;
   void attachNode(QvNode*) override {}
   void copyValueFrom(QvField* source) override;

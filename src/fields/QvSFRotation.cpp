@@ -1,7 +1,8 @@
 #include "fields/QvSFRotation.h"
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/Evaluation.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -32,7 +33,7 @@ Term* QvSFRotation::GetLumericValue(int i, int j, FieldExpression* at) {
     }
     if (whole) return value;
     if (component) return ScalarTerm::make(vector->elements[i]);
-    if (i >= 4) theContext.reportAtExpression(at, "Bounds error: tried to access SFRotation[%d]", i);
+    if (i >= 4) reportAtExpression(at, "Bounds error: tried to access SFRotation[%d]", i);
     return nullptr;
   }
   double numbers[4];
@@ -41,11 +42,11 @@ Term* QvSFRotation::GetLumericValue(int i, int j, FieldExpression* at) {
     return makeVector(numbers, 4);
   }
   if (i >= 0 && i < 4) return ScalarTerm::make(numberOf(values[i]));
-  theContext.reportAtExpression(at, "Bounds error: tried to access SFRotation[%d]", i);
+  reportAtExpression(at, "Bounds error: tried to access SFRotation[%d]", i);
   return ScalarTerm::make(0);
 }
 
-void QvSFRotation::write(FILE* out) {
+void QvSFRotation::write(SceneWriter& out) {
   if (isExpression) {
     double numbers[4];
     if (!evaluateVector(&wholeExpression, numbers, 4)) {
@@ -53,15 +54,13 @@ void QvSFRotation::write(FILE* out) {
     }
     // Each number is written " %g " (the last " %g\n"), so two blanks
     // separate them.
-    OutputText text(out);
-    for (int k = 0; k < 4; ++k) text.character(' ').number(numbers[k]).character(k < 3 ? ' ' : '\n');
+    for (int k = 0; k < 4; ++k) out.character(' ').number(numbers[k]).character(k < 3 ? ' ' : '\n');
     return;
   }
   double numbers[4];
   componentNumbers(numbers);
-  OutputText text(out);
-  for (int k = 0; k < 3; ++k) text.character(' ').rounded(numbers[k]);
-  text.character(' ').number(numbers[3]).character('\n');
+  for (int k = 0; k < 3; ++k) out.character(' ').rounded(numbers[k]);
+  out.character(' ').number(numbers[3]).character('\n');
 }
 
 QvField* QvSFRotation::clone() {

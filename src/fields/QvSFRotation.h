@@ -15,7 +15,7 @@ class QvSFRotation : public WholeExpressionField<4> {
   const char* getTypeName() const override { return "SFRotation"; }
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
-  void write(FILE* out) override;
+  void write(SceneWriter& out) override;
   QvField* clone() override;
   void copyValueFrom(QvField* source) override;
 

@@ -5,16 +5,17 @@
 //   kGetGivesNumber: true when GetLumericValue always answers with a new
 //     ScalarTerm (0 after the bounds message); false when it gives the
 //     evaluated term and null after the bounds message,
-//   static void writeValue(OutputText&, double): the text after " ".
+//   static void writeValue(SceneWriter&, double): the text after " ".
 #ifndef LUMERIC_FIELDS_SFNUMBERFIELD_H
 #define LUMERIC_FIELDS_SFNUMBERFIELD_H
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/Evaluation.h"
 #include "fields/FieldSupport.h"
-#include "reader/FieldExpression.h"
-#include "reader/QvField.h"
+#include "scene/FieldExpression.h"
+#include "scene/QvField.h"
 #include "reader/QvSceneInput.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -24,7 +25,7 @@ class SFNumberField : public QvSingleField {
   const char* getTypeName() const override { return Traits::kTypeName; }
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
-  void write(FILE* out) override;
+  void write(SceneWriter& out) override;
   QvField* clone() override;
   void attachNode(QvNode* node) override { value.attachOwner(node); }
   // One value text; a leading "=" is left to the parser.
@@ -47,7 +48,7 @@ void SFNumberField<Derived, Traits>::SetLumericValue(Term* term, int, int, Field
 template <class Derived, class Traits>
 Term* SFNumberField<Derived, Traits>::GetLumericValue(int i, int, FieldExpression* at) {
   if (i >= 1) {
-    theContext.reportAtExpression(at, Traits::kBounds, i);
+    reportAtExpression(at, Traits::kBounds, i);
     return Traits::kGetGivesNumber ? ScalarTerm::make(0) : nullptr;
   }
   if (Traits::kGetGivesNumber) return ScalarTerm::make(numberOf(value));
@@ -55,10 +56,9 @@ Term* SFNumberField<Derived, Traits>::GetLumericValue(int i, int, FieldExpressio
 }
 
 template <class Derived, class Traits>
-void SFNumberField<Derived, Traits>::write(FILE* out) {
-  OutputText text(out);
-  text.character(' ');
-  Traits::writeValue(text, numberOf(value));
+void SFNumberField<Derived, Traits>::write(SceneWriter& out) {
+  out.character(' ');
+  Traits::writeValue(out, numberOf(value));
 }
 
 template <class Derived, class Traits>

@@ -6,12 +6,13 @@
 #ifndef LUMERIC_FIELDS_SFSTRINGFIELD_H
 #define LUMERIC_FIELDS_SFSTRINGFIELD_H
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/Evaluation.h"
 #include "fields/FieldSupport.h"
-#include "reader/FieldExpression.h"
-#include "reader/QvField.h"
+#include "scene/FieldExpression.h"
+#include "scene/QvField.h"
 #include "reader/QvSceneInput.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -21,7 +22,7 @@ class SFStringField : public QvSingleField {
   const char* getTypeName() const override { return Traits::kTypeName; }
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
-  void write(FILE* out) override;
+  void write(SceneWriter& out) override;
   QvField* clone() override;
   void attachNode(QvNode* node) override { value.attachOwner(node); }
   // One value text, quotation marks included.
@@ -43,20 +44,16 @@ void SFStringField<Derived, Traits>::SetLumericValue(Term* term, int, int, Field
 
 template <class Derived, class Traits>
 Term* SFStringField<Derived, Traits>::GetLumericValue(int i, int, FieldExpression* at) {
-  if (i >= 1) {
-    theContext.reportAtExpression(at, Traits::kBounds, i);
-    return nullptr;
-  }
+  if (i >= 1) return reportAtExpression(at, Traits::kBounds, i);
   return Traits::evaluate(&value);
 }
 
 // The string is written as it is: it cannot hold a quotation mark.
 template <class Derived, class Traits>
-void SFStringField<Derived, Traits>::write(FILE* out) {
+void SFStringField<Derived, Traits>::write(SceneWriter& out) {
   StringTerm* string = Traits::evaluate(&value);
   if (string == nullptr) return reportAt(&value, "Cannot evaluate string");
-  OutputText text(out);
-  text.text(" \"").text(string->text != nullptr ? string->text : "").text("\"\n");
+  out.text(" \"").text(string->text != nullptr ? string->text : "").text("\"\n");
 }
 
 template <class Derived, class Traits>

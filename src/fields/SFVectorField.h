@@ -11,12 +11,13 @@
 #ifndef LUMERIC_FIELDS_SFVECTORFIELD_H
 #define LUMERIC_FIELDS_SFVECTORFIELD_H
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/Evaluation.h"
 #include "fields/FieldSupport.h"
-#include "reader/FieldExpression.h"
-#include "reader/QvField.h"
+#include "scene/FieldExpression.h"
+#include "scene/QvField.h"
 #include "reader/QvSceneInput.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -28,7 +29,7 @@ class SFVectorField : public QvSingleField {
   const char* getTypeName() const override { return Traits::kTypeName; }
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
-  void write(FILE* out) override;
+  void write(SceneWriter& out) override;
   QvField* clone() override;
   void attachNode(QvNode* node) override;
   bool readValue(QvSceneInput* in) override;
@@ -83,12 +84,11 @@ Term* SFVectorField<Derived, Traits>::GetLumericValue(int i, int j, FieldExpress
     }
     if (i >= 0 && i < kSize) return evaluateTerm(&values[i]);
   }
-  theContext.reportAtExpression(place, Traits::kBounds, i);
-  return nullptr;
+  return reportAtExpression(place, Traits::kBounds, i);
 }
 
 template <class Derived, class Traits>
-void SFVectorField<Derived, Traits>::write(FILE* out) {
+void SFVectorField<Derived, Traits>::write(SceneWriter& out) {
   double numbers[kSize];
   if (isExpression) {
     VectorTerm* vector = evaluateWhole();
@@ -97,10 +97,9 @@ void SFVectorField<Derived, Traits>::write(FILE* out) {
   } else {
     numbersOf(values, kSize, numbers);
   }
-  OutputText text(out);
   for (int k = 0; k < kSize; ++k) {
-    if (k == 0) text.character(' ');
-    text.rounded(numbers[k]).character(k + 1 < kSize ? ' ' : '\n');
+    if (k == 0) out.character(' ');
+    out.rounded(numbers[k]).character(k + 1 < kSize ? ' ' : '\n');
   }
 }
 

@@ -6,8 +6,8 @@
 #define LUMERIC_FIELDS_WHOLEEXPRESSIONFIELD_H
 
 #include "fields/FieldSupport.h"
-#include "reader/FieldExpression.h"
-#include "reader/QvField.h"
+#include "scene/FieldExpression.h"
+#include "scene/QvField.h"
 #include "reader/QvSceneInput.h"
 
 namespace lumeric {

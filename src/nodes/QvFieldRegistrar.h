@@ -8,8 +8,8 @@
 #include <utility>
 
 #include "fields/QvSFEnum.h"
-#include "reader/QvFieldTable.h"
-#include "reader/QvNodeClass.h"
+#include "scene/QvFieldTable.h"
+#include "scene/QvNodeClass.h"
 
 namespace lumeric {
 

@@ -7,10 +7,11 @@
 
 #include <type_traits>
 
-#include "driver/QvContext.h"
-#include "reader/NodeFrame.h"
-#include "reader/QvGroupNode.h"
-#include "reader/QvNodeClass.h"
+#include "reader/NodeReader.h"
+#include "scene/NodeVisit.h"
+#include "scene/QvGroupNode.h"
+#include "scene/QvNodeClass.h"
+#include "writer/SceneWriter.h"
 
 namespace lumeric {
 
@@ -33,22 +34,30 @@ class QvStandardNode : public Base {
     }
   }
 
-  void write(FILE* out) override {
-    writeOpeningLine(out, this, Derived::kClassName);
-    this->parent = theContext.topNode();
-    if constexpr (kIsGroup) theContext.pushNode(this);
-    ++theContext.indentLevel;
-    writeFieldLines(out, this);
+  void write(SceneWriter& out) override {
+    out.openNode(this->writtenName(), Derived::kClassName);
     if constexpr (kIsGroup) {
+      NodeVisit visit(this);
+      this->writeFields(out);
       BlankLine blank = Derived::kBlankLine;
       if (blank == BlankLine::kAlways || (blank == BlankLine::kIfChildren && this->getNumChildren() > 0)) {
-        std::fputs("\n", out);
+        out.character('\n');
       }
       this->writeChildren(out);
+    } else {
+      // A leaf is not pushed: nothing below it looks for enclosing nodes.
+      this->parent = theNodeStack.top();
+      this->writeFields(out);
     }
-    --theContext.indentLevel;
-    if constexpr (kIsGroup) theContext.popNode();
-    writeClosingLine(out);
+    out.closeNode();
+  }
+
+  bool readInstance(QvSceneInput* in) override {
+    if constexpr (kIsGroup) {
+      return readGroupBody(in, this);
+    } else {
+      return readLeafBody(in, this);
+    }
   }
 
   void check() override {

@@ -1,4 +1,4 @@
-#include "reader/NodeFactory.h"
+#include "nodes/NodeFactories.h"
 
 #include "nodes/QvAsciiText.h"
 #include "nodes/QvCone.h"
@@ -35,7 +35,7 @@
 #include "nodes/QvTranslation.h"
 #include "nodes/QvWWWAnchor.h"
 #include "nodes/QvWWWInline.h"
-#include "reader/NodeClassTable.h"
+#include "scene/NodeClassTable.h"
 #include "nodes/QvGroup.h"
 
 namespace lumeric {

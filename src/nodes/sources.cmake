@@ -38,6 +38,7 @@ set(LUMERIC_NODE_SOURCES
   src/nodes/StandardNodeFactory.cpp
   src/nodes/extensions/ExtensionNodeFactory.cpp
   src/nodes/extensions/QvAssignmentStatement.cpp
+  src/nodes/extensions/QvInclude.cpp
   src/nodes/extensions/QvOutputToStatement.cpp
   src/nodes/extensions/QvPrecisionStatement.cpp
   src/nodes/extensions/QvPrintStatement.cpp

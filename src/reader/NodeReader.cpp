@@ -4,25 +4,27 @@
 #include <memory>
 #include <string>
 
-#include "driver/LibraryState.h"
-#include "driver/QvContext.h"
-#include "lumeric/lumeric.h"
-#include "reader/FieldExpression.h"
-#include "reader/NodeFactory.h"
-#include "reader/QvNode.h"
+#include "core/QvContext.h"
+#include "core/RunState.h"
+#include "reader/FieldReading.h"
 #include "reader/QvSceneInput.h"
 #include "reader/QvUnknownNode.h"
+#include "reader/ReadErrors.h"
+#include "scene/FieldExpression.h"
+#include "scene/QvFieldTable.h"
+#include "scene/QvGroupNode.h"
+#include "scene/QvNode.h"
+#include "scene/SceneMessages.h"
+#include "scene/SceneOperations.h"
 
 namespace lumeric {
 
 namespace {
 
-int nestingDepth = 0;
-
 class NestingLevel {
  public:
-  NestingLevel() { ++nestingDepth; }
-  ~NestingLevel() { --nestingDepth; }
+  NestingLevel() { ++theRun.readingDepth; }
+  ~NestingLevel() { --theRun.readingDepth; }
   NestingLevel(const NestingLevel&) = delete;
   NestingLevel& operator=(const NestingLevel&) = delete;
 };
@@ -31,7 +33,7 @@ bool named(QvAtom atom, const char* text) { return std::strcmp(atom.text(), text
 
 bool isStatementKeyword(QvAtom name) {
   if (named(name, "USE")) return true;
-  if (!extensionsEnabled) return false;
+  if (!theRun.extensionsEnabled) return false;
   static const char* const kKeywords[] = {"SET", "APPEND", "DECLARE", "OUTPUT_TO", "INCLUDE", "PRECISION", "PRINT"};
   for (const char* keyword : kKeywords) {
     if (named(name, keyword)) return true;
@@ -47,14 +49,8 @@ void stampPosition(QvNode* node, int line) {
 
 bool expectChar(QvSceneInput* in, char expected) {
   char c;
-  if (!in->readChar(c)) {
-    theContext.readError(in, "Expected '%c'; got EOF", expected);
-    return false;
-  }
-  if (c != expected) {
-    theContext.readError(in, "Expected '%c'; got '%c'", expected, c);
-    return false;
-  }
+  if (!in->readChar(c)) return readError(in, "Expected '%c'; got EOF", expected);
+  if (c != expected) return readError(in, "Expected '%c'; got '%c'", expected, c);
   return true;
 }
 
@@ -65,30 +61,30 @@ bool readPrefix(QvSceneInput* in, QvAtom& typeName, QvAtom& defName, std::unique
     bool readsOk = in->readName(defName, QvSceneInput::kDefName) && in->readName(typeName, QvSceneInput::kUpperName);
     if (!readsOk) typeName = QvAtom();
     bool ok = readsOk;
-    if (!readsOk) theContext.readError(in, "Premature end of file after DEF");
+    if (!readsOk) readError(in, "Premature end of file after DEF");
     if (defName.isEmpty()) {
-      theContext.readError(in, "No name given after %s", "DEF");
+      readError(in, "No name given after %s", "DEF");
       ok = false;
     }
     if (typeName.isEmpty()) {
-      theContext.readError(in, "Invalid definition of %s", defName.text());
+      readError(in, "Invalid definition of %s", defName.text());
       ok = false;
     }
     return ok;
   }
-  if (named(typeName, "VARNAME") && extensionsEnabled) {
+  if (named(typeName, "VARNAME") && theRun.extensionsEnabled) {
     nameText = std::make_unique<FieldExpression>();
     bool readsOk = in->readValueText(*nameText, nullptr);
     readsOk = in->readName(typeName, QvSceneInput::kUpperName) && readsOk;
     bool ok = readsOk;
-    if (!readsOk) theContext.readError(in, "Premature end of file after VARNAME");
+    if (!readsOk) readError(in, "Premature end of file after VARNAME");
     if (!nameText->hasText()) {
-      theContext.readError(in, "No expression given after %s", "VARNAME");
+      readError(in, "No expression given after %s", "VARNAME");
       ok = false;
     }
     if (typeName.isEmpty()) {
       // There is no DEF name on this path; the expression names the node.
-      theContext.readError(in, "Invalid definition of %s", nameText->hasText() ? nameText->text() : "");
+      readError(in, "Invalid definition of %s", nameText->hasText() ? nameText->text() : "");
       ok = false;
     }
     return ok;
@@ -130,10 +126,7 @@ bool readScene(QvSceneInput* in, QvNode*& root) {
   bool ok = readNode(in, root);
   if (ok && root == nullptr && !in->eof()) {
     char c;
-    if (in->getChar(c)) {
-      theContext.readError(in, "Extra characters ('%c') found in input", c);
-      return false;
-    }
+    if (in->getChar(c)) return readError(in, "Extra characters ('%c') found in input", c);
   }
   // After a read error the root, when there is one, keeps what was read
   // before it.
@@ -147,12 +140,11 @@ bool readNode(QvSceneInput* in, QvNode*& node) {
   if (!in->readName(typeName, QvSceneInput::kUpperName)) return in->isUsable();
   if (typeName.isEmpty() || named(typeName, "NULL")) return true;
   int line = in->getLine();
-  if (nestingDepth > kMaxNodeNesting) {
-    theContext.readError(in, "Nodes nested too deep - at most %d levels", kMaxNodeNesting);
-    return false;
+  if (theRun.readingDepth > kMaxNodeDepth) {
+    return readError(in, "Nodes nested too deep - at most %d levels", kMaxNodeDepth);
   }
   if (isStatementKeyword(typeName)) {
-    node = createStatement(typeName.text());
+    node = sceneOperations().createStatement(typeName.text());
     if (node == nullptr) return true;
     stampPosition(node, line);
     node->readInstance(in);
@@ -168,19 +160,16 @@ void discardNode(QvNode* node) {
 }
 
 QvNode* createNode(QvSceneInput* in, QvAtom typeName, int line) {
-  QvNode* node = createStandardNode(typeName.text());
-  if (node == nullptr && extensionsEnabled) node = createExtensionNode(typeName.text());
+  QvNode* node = sceneOperations().createStandardNode(typeName.text());
+  if (node == nullptr && theRun.extensionsEnabled) node = sceneOperations().createExtensionNode(typeName.text());
   if (node == nullptr) {
     std::string word;
     in->readString(word);
-    if (word != "fields") {
-      theContext.readError(in, "Unknown class \"%s\"", typeName.text());
-      return nullptr;
-    }
+    if (word != "fields") return readError(in, "Unknown class \"%s\"", typeName.text());
     node = new QvUnknownNode(typeName);
     in->putBackWord("fields");
     stampPosition(node, line);
-    if ((gWarn & 2) != 0) theContext.warnAtNode(node, "Warning: Unknown \"%s\" node found", typeName.text());
+    if (warningsEnabled(kWarnUnknownNodes)) warnAtNode(node, "Warning: Unknown \"%s\" node found", typeName.text());
     return node;
   }
   stampPosition(node, line);
@@ -190,12 +179,35 @@ QvNode* createNode(QvSceneInput* in, QvAtom typeName, int line) {
 bool refuseFieldSpecification(QvSceneInput* in) {
   QvAtom word;
   in->readName(word, QvSceneInput::kLowerName);
-  if (named(word, "fields")) {
-    theContext.readError(in, "Cannot use a fields specifications with this node");
-    return false;
-  }
+  if (named(word, "fields")) return readError(in, "Cannot use a fields specifications with this node");
   in->putBackWord(word.text());
   return true;
+}
+
+bool readLeafBody(QvSceneInput* in, QvNode* node) {
+  if (node->getFieldTable() == nullptr) return true;
+  if (!readFieldSpecification(in, node)) return false;
+  return readFieldValues(in, node, true);
+}
+
+bool readGroupBody(QvSceneInput* in, QvGroupNode* group) {
+  if (group->getFieldTable() != nullptr) {
+    if (!group->isBuiltIn && !readFieldSpecification(in, group)) return false;
+    if (!readFieldValues(in, group, false)) return false;
+  }
+  return readChildren(in, group);
+}
+
+bool readChildren(QvSceneInput* in, QvGroupNode* group) {
+  for (;;) {
+    QvNode* child = nullptr;
+    if (!readNode(in, child)) {
+      discardNode(child);
+      return false;
+    }
+    if (child == nullptr) return true;
+    group->addChild(child);
+  }
 }
 
 void skipToClosingBrace(QvSceneInput* in) {

@@ -4,17 +4,13 @@
 #ifndef LUMERIC_READER_NODEREADER_H
 #define LUMERIC_READER_NODEREADER_H
 
-#include "reader/QvAtom.h"
+#include "core/QvAtom.h"
 
 namespace lumeric {
 
+class QvGroupNode;
 class QvNode;
 class QvSceneInput;
-
-// How deep nodes may be nested in a scene (included files count their
-// INCLUDE statement as a level).  It equals the depth of the context's node
-// stack, so every pass over the tree finds each node's enclosing nodes.
-constexpr int kMaxNodeNesting = 63;
 
 // Reads the root node of a file; only the first node is read.
 bool readScene(QvSceneInput* in, QvNode*& root);
@@ -25,6 +21,15 @@ bool readScene(QvSceneInput* in, QvNode*& root);
 bool readNode(QvSceneInput* in, QvNode*& node);
 // Destroys a node that nobody took a reference on.
 void discardNode(QvNode* node);
+// The body of a node without children: a field specification, then field
+// values, an unknown field name being an error.
+bool readLeafBody(QvSceneInput* in, QvNode* node);
+// The body of a group: a field specification when the class is not built
+// in, field values (stopping at the first name that is no field), then the
+// children.
+bool readGroupBody(QvSceneInput* in, QvGroupNode* group);
+// Reads nodes into `group` until something that is not a node follows.
+bool readChildren(QvSceneInput* in, QvGroupNode* group);
 // The node factory with the unknown-class rule; reports unknown classes.
 QvNode* createNode(QvSceneInput* in, QvAtom typeName, int line);
 // After a statement keyword: the next word must not be "fields" (reports

@@ -6,9 +6,11 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "driver/QvContext.h"
-#include "reader/FieldExpression.h"
-#include "reader/QvNode.h"
+#include "core/CharacterClasses.h"
+#include "core/QvContext.h"
+#include "reader/ReadErrors.h"
+#include "scene/FieldExpression.h"
+#include "scene/QvNode.h"
 
 namespace lumeric {
 
@@ -22,7 +24,6 @@ constexpr size_t kMaxIntegerDigits = 40;
 
 bool isAsciiLower(char c) { return c >= 'a' && c <= 'z'; }
 bool isAsciiUpper(char c) { return c >= 'A' && c <= 'Z'; }
-bool isAsciiDigit(char c) { return c >= '0' && c <= '9'; }
 bool isHexDigit(char c) { return std::isxdigit(static_cast<unsigned char>(c)) != 0; }
 
 // Characters that neither end a value text nor change how it is read.
@@ -38,21 +39,7 @@ bool isOrdinaryValueChar(char c) {
 
 }  // namespace
 
-bool isSceneSpace(int c) {
-  return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\v' || c == '\f';
-}
-
-bool isNameChar(int c) {
-  unsigned char u = static_cast<unsigned char>(c);
-  if (u > 127) return false;
-  if (std::isalnum(u)) return true;
-  if (!std::isprint(u) || u == ' ') return false;
-  return std::strchr("+'\"\\{}[],.#&", u) == nullptr;
-}
-
-bool isNameStart(int c) { return isNameChar(c) && !isAsciiDigit(static_cast<char>(c)); }
-
-QvSceneInput::QvSceneInput() : defTable_(QvNameTable::kDefaultBuckets) { setFile(stdin); }
+QvSceneInput::QvSceneInput() { setFile(stdin); }
 
 QvSceneInput::~QvSceneInput() = default;
 
@@ -109,7 +96,7 @@ bool QvSceneInput::checkHeader() {
   } else if (ok) {
     unreadRaw();
   }
-  theContext.readError(this, "File does not have a valid header string");
+  readError(this, "File does not have a valid header string");
   s.usable = false;
   return false;
 }
@@ -173,7 +160,7 @@ bool QvSceneInput::skipWhiteSpace() {
         }
       }
       if (!closed) {
-        theContext.readError(this, "EOF reached before end of comment");
+        readError(this, "EOF reached before end of comment");
         return true;
       }
     } else if (!isSceneSpace(c)) {
@@ -201,7 +188,7 @@ bool QvSceneInput::peekChar(char expected) {
   return c == expected;
 }
 
-bool QvSceneInput::readName(QvAtom& name, int kind) {
+bool QvSceneInput::readName(QvAtom& name, NameKind kind) {
   name = QvAtom();
   if (!skipWhiteSpace()) return false;
   char c;
@@ -398,20 +385,6 @@ bool QvSceneInput::readUnsigned(uint32_t& value) {
   unsigned long long v = std::strtoull(digits.c_str(), nullptr, 0);
   value = static_cast<uint32_t>(v > UINT32_MAX ? UINT32_MAX : v);
   return true;
-}
-
-bool QvSceneInput::addName(QvAtom name, QvNode* node) {
-  void* previous = nullptr;
-  bool wasDefined = defTable_.find(name.key(), previous);
-  defTable_.enter(name.key(), node);
-  node->setName(name, wasDefined);
-  return wasDefined;
-}
-
-QvNode* QvSceneInput::findName(QvAtom name) const {
-  void* node = nullptr;
-  defTable_.find(name.key(), node);
-  return static_cast<QvNode*>(node);
 }
 
 }  // namespace lumeric

@@ -11,20 +11,14 @@
 #include <memory>
 #include <string>
 
-#include "reader/QvAtom.h"
-#include "reader/QvNameTable.h"
+#include "core/QvAtom.h"
+#include "core/CharacterClasses.h"
+#include "scene/QvDefTable.h"
 
 namespace lumeric {
 
 class FieldExpression;
 class QvNode;
-
-// Character classes of the scene reader (the classic locale).  Bytes above
-// 127 are neither letters, digits, white space nor name characters: a name
-// stops in front of them, while a value text keeps them as they are.
-bool isSceneSpace(int c);
-bool isNameChar(int c);
-bool isNameStart(int c);  // a name character that is not a digit
 
 class QvSceneInput {
  public:
@@ -93,7 +87,7 @@ class QvSceneInput {
   bool peekChar(char expected);
   // A name of the given kind after white space; an empty atom when the
   // first character does not qualify.  At most 255 characters are kept.
-  bool readName(QvAtom& name, int kind);
+  bool readName(QvAtom& name, NameKind kind);
   // A quoted or unquoted string after white space.
   bool readString(std::string& text);
   // The raw text of one value after white space, recorded in `expr` with the
@@ -106,10 +100,12 @@ class QvSceneInput {
   int getLine() const;
   bool isUsable() const;
 
+  // The DEF table of the scene read through this input.
+  QvDefTable& defNames() { return defTable_; }
   // Enters `node` under `name` in the DEF table (replacing an earlier node)
   // and names the node.  Tells whether the table already held that name.
-  bool addName(QvAtom name, QvNode* node);
-  QvNode* findName(QvAtom name) const;
+  bool addName(QvAtom name, QvNode* node) { return defTable_.addName(name, node); }
+  QvNode* findName(QvAtom name) const { return defTable_.findName(name); }
 
  private:
   bool getCharSlowly(char& c);
@@ -119,7 +115,7 @@ class QvSceneInput {
   bool readDigits(std::string& digits, bool allowSign);
 
   SavedState state_;
-  QvNameTable defTable_;
+  QvDefTable defTable_;
 };
 
 }  // namespace lumeric

@@ -1,10 +1,9 @@
 #include "reader/QvUnknownNode.h"
 
-#include "driver/LibraryState.h"
-#include "driver/QvContext.h"
-#include "reader/NodeFrame.h"
-#include "reader/QvField.h"
-#include "reader/QvSceneInput.h"
+#include "reader/NodeReader.h"
+#include "scene/NodeVisit.h"
+#include "scene/QvField.h"
+#include "writer/SceneWriter.h"
 
 namespace lumeric {
 
@@ -20,18 +19,18 @@ QvNode* QvUnknownNode::newInstance() {
   return duplicate;
 }
 
-void QvUnknownNode::write(FILE* out) {
-  writeOpeningLine(out, this, className_.c_str());
-  parent = theContext.topNode();
-  theContext.pushNode(this);
-  ++theContext.indentLevel;
-  theContext.writeIndented(out, "fields");
-  fields_.writeSpecsAndValues(out, this);
-  std::fputs("\n", out);
-  writeChildren(out);
-  --theContext.indentLevel;
-  theContext.popNode();
-  writeClosingLine(out);
+void QvUnknownNode::write(SceneWriter& out) {
+  out.openNode(writtenName(), className_.c_str());
+  {
+    NodeVisit visit(this);
+    out.indentation().text("fields");
+    fields_.writeSpecsAndValues(out, this);
+    out.character('\n');
+    writeChildren(out);
+  }
+  out.closeNode();
 }
+
+bool QvUnknownNode::readInstance(QvSceneInput* in) { return readGroupBody(in, this); }
 
 }  // namespace lumeric

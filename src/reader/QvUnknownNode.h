@@ -8,8 +8,8 @@
 #include <memory>
 #include <string>
 
-#include "reader/QvFieldTable.h"
-#include "reader/QvGroupNode.h"
+#include "scene/QvFieldTable.h"
+#include "scene/QvGroupNode.h"
 
 namespace lumeric {
 
@@ -19,7 +19,8 @@ class QvUnknownNode : public QvGroupNode {
 
   QvFieldTable* getFieldTable() override { return &fields_; }
   const char* getClassName() const override { return className_.c_str(); }
-  void write(FILE* out) override;
+  void write(SceneWriter& out) override;
+  bool readInstance(QvSceneInput* in) override;
 
  protected:
   // A node of the same class holding evaluated clones of the fields, under

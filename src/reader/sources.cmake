@@ -1,18 +1,7 @@
 set(LUMERIC_READER_SOURCES
-  src/reader/FieldExpression.cpp
-  src/reader/NodeFrame.cpp
+  src/reader/FieldReading.cpp
   src/reader/NodeReader.cpp
-  src/reader/NumberText.cpp
-  src/reader/QvAtom.cpp
-  src/reader/QvAtomPool.cpp
-  src/reader/QvField.cpp
-  src/reader/QvFieldTable.cpp
-  src/reader/QvGroupNode.cpp
-  src/reader/QvInclude.cpp
-  src/reader/QvNameTable.cpp
-  src/reader/QvNode.cpp
-  src/reader/QvNodeClass.cpp
-  src/reader/QvPointerList.cpp
   src/reader/QvSceneInput.cpp
   src/reader/QvUnknownNode.cpp
+  src/reader/ReadErrors.cpp
 )

@@ -10,9 +10,9 @@
 #include <string>
 #include <vector>
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/Term.h"
-#include "reader/FieldExpression.h"
+#include "scene/FieldExpression.h"
 #include "support/RecordingView.h"
 #include "support/TermText.h"
 

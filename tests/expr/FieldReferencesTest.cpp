@@ -5,12 +5,13 @@
 #include <string>
 #include <vector>
 
-#include "driver/LibraryState.h"
-#include "driver/QvContext.h"
+#include "core/RunState.h"
+#include "core/QvContext.h"
 #include "expr/Evaluation.h"
 #include "expr/ExpressionFixture.h"
 #include "expr/NestedParse.h"
 #include "expr/TestNode.h"
+#include "scene/NodeVisit.h"
 #include "reader/QvSceneInput.h"
 
 namespace lumeric {
@@ -36,13 +37,13 @@ class FieldReferencesTest : public ExpressionFixture {
     inner_->addField("broken", "1/");
     size_ = box_->addField("size", "(1,2,3)");
     box_->addField("bad", "\"x\"+1");
-    theContext.pushNode(outer_);
-    currentInput = &input_;
+    theNodeStack.push(outer_);
+    theRun.defNames = &input_.defNames();
     input_.addName(QvAtom("Box"), box_);
   }
   void TearDown() override {
-    currentInput = nullptr;
-    theContext.popNode();
+    theRun.defNames = nullptr;
+    theNodeStack.pop();
     for (TestNode* node : nodes_) node->unref();
     ExpressionFixture::TearDown();
   }

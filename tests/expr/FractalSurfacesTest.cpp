@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "driver/LibraryState.h"
+#include "core/RunState.h"
 #include "expr/Evaluation.h"
 #include "expr/ExpressionFixture.h"
 #include "expr/functions/RandomGenerator.h"

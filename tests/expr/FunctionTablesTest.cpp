@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/Evaluation.h"
 #include "expr/ExpressionFixture.h"
 #include "expr/functions/FunctionLookup.h"

@@ -8,7 +8,7 @@
 #include <cstring>
 #include <string>
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/Evaluation.h"
 #include "expr/ExpressionLexer.h"
 #include "expr/ExpressionFixture.h"

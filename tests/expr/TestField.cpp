@@ -1,6 +1,6 @@
 #include "expr/TestField.h"
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "expr/Evaluation.h"
 #include "expr/ExpressionFixture.h"
 

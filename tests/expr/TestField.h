@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "reader/FieldExpression.h"
-#include "reader/QvField.h"
+#include "scene/FieldExpression.h"
+#include "scene/QvField.h"
 
 namespace lumeric {
 
@@ -25,7 +25,7 @@ class TestField : public QvSingleField {
   // null.  A text that stores nothing (a statement) reads as 0.
   Term* GetLumericValue(int i, int j, FieldExpression* where) override;
   void attachNode(QvNode* node) override { value.attachOwner(node); }
-  void write(FILE*) override {}
+  void write(SceneWriter&) override {}
   QvField* clone() override { return nullptr; }
   bool readValue(QvSceneInput*) override { return false; }
   void copyValueFrom(QvField*) override {}

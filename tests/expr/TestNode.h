@@ -3,8 +3,8 @@
 #define LUMERIC_TESTS_EXPR_TESTNODE_H
 
 #include "expr/TestField.h"
-#include "reader/QvFieldTable.h"
-#include "reader/QvNode.h"
+#include "scene/QvFieldTable.h"
+#include "scene/QvNode.h"
 
 namespace lumeric {
 
@@ -17,7 +17,8 @@ class TestNode : public QvNode {
 
   QvFieldTable* getFieldTable() override { return &table_; }
   void evaluate(QvGroupNode*, bool) override {}
-  void write(FILE*) override {}
+  void write(SceneWriter&) override {}
+  bool readInstance(QvSceneInput*) override { return true; }
   const char* getClassName() const override { return "TestNode"; }
 
  private:

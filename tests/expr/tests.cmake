@@ -12,4 +12,5 @@ set(LUMERIC_EXPR_TESTS
   expr/FractalSurfacesTest.cpp
 
   expr/PlainNumberTest.cpp
+  expr/TermArenaTest.cpp
 )

@@ -2,7 +2,7 @@
 // numbers, owner attachment, and the enumeration fields.
 #include <cstring>
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "fields/FieldFixture.h"
 #include "fields/QvMFFloat.h"
 #include "fields/QvMFString.h"
@@ -11,7 +11,7 @@
 #include "fields/QvSFEnum.h"
 #include "fields/QvSFFloat.h"
 #include "fields/QvSFImage.h"
-#include "reader/QvNode.h"
+#include "scene/QvNode.h"
 
 namespace lumeric {
 namespace {
@@ -140,7 +140,8 @@ class BareNode : public QvNode {
   explicit BareNode(int at) { line = at; }
   QvFieldTable* getFieldTable() override { return nullptr; }
   void evaluate(QvGroupNode*, bool) override {}
-  void write(FILE*) override {}
+  void write(SceneWriter&) override {}
+  bool readInstance(QvSceneInput*) override { return true; }
   const char* getClassName() const override { return "Bare"; }
 };
 

@@ -1,7 +1,7 @@
 // Values crossing between fields and expressions: SetLumericValue,
 // appendValue and GetLumericValue of every type.  Messages at the caller's
 // expression start "Line 7: ", at the field's own texts "Line 2: ".
-#include "driver/LibraryState.h"
+#include "core/RunState.h"
 #include "fields/FieldFixture.h"
 
 namespace lumeric {

@@ -3,24 +3,26 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "driver/LibraryState.h"
-#include "driver/QvContext.h"
+#include "core/RunState.h"
+#include "core/QvContext.h"
 #include "expr/Evaluation.h"
-#include "reader/QvAtom.h"
-#include "reader/QvFieldTable.h"
+#include "core/QvAtom.h"
+#include "scene/QvFieldTable.h"
+#include "fields/FieldFactory.h"
 #include "reader/QvSceneInput.h"
+#include "writer/SceneWriter.h"
 
 namespace lumeric {
 
 void FieldFixture::SetUp() {
   theContext.setView(&view_);
-  theContext.indentLevel = 0;
+  indentLevel = 0;
   precisionQuantum = 0.0001;
 }
 
 void FieldFixture::TearDown() {
   theContext.setView(nullptr);
-  theContext.indentLevel = 0;
+  indentLevel = 0;
   precisionQuantum = 0.0001;
   freeAllTerms();
 }
@@ -54,7 +56,12 @@ std::string FieldFixture::written(QvField& field) {
   char* buffer = nullptr;
   size_t size = 0;
   FILE* out = open_memstream(&buffer, &size);
-  field.write(out);
+  {
+    SceneWriter writer(out);
+    writer.setLevel(indentLevel);
+    field.write(writer);
+    indentLevel = writer.level();
+  }
   std::fclose(out);
   std::string text(buffer, size);
   std::free(buffer);

@@ -13,8 +13,8 @@
 #include <vector>
 
 #include "expr/Term.h"
-#include "reader/FieldExpression.h"
-#include "reader/QvField.h"
+#include "scene/FieldExpression.h"
+#include "scene/QvField.h"
 #include "support/RecordingView.h"
 #include "support/TermText.h"
 
@@ -36,6 +36,8 @@ class FieldFixture : public ::testing::Test {
   // A field of the named type holding `value`; fails the test when the
   // value cannot be read.
   std::unique_ptr<QvField> holding(const char* typeName, const std::string& value);
+  // The writer's indentation level before and after written().
+  int indentLevel = 0;
   // What the field's write gives.
   std::string written(QvField& field);
   // The messages posted so far, and forgets them.

@@ -1,10 +1,11 @@
 // Value texts read from a scene and the text each field type writes for
 // them, with the messages posted on the way.  Precision step 0.0001.
-#include "driver/LibraryState.h"
-#include "driver/QvContext.h"
+#include "fields/FieldFactory.h"
+#include "core/RunState.h"
+#include "core/QvContext.h"
 #include "fields/FieldFixture.h"
-#include "reader/QvAtom.h"
-#include "reader/QvFieldTable.h"
+#include "core/QvAtom.h"
+#include "scene/QvFieldTable.h"
 
 namespace lumeric {
 namespace {
@@ -26,7 +27,7 @@ TEST_P(FieldWriteTest, WritesTheEvaluatedValue) {
   ASSERT_NE(field, nullptr);
   EXPECT_EQ(written(*field), c.written);
   EXPECT_EQ(takeMessages(), c.messages);
-  EXPECT_EQ(theContext.indentLevel, 0);
+  EXPECT_EQ(indentLevel, 0);
 }
 
 const WriteCase kNumbers[] = {
@@ -143,11 +144,11 @@ TEST_F(FieldFixture, ListRowsIndentOneLevelBelowTheField) {
   std::unique_ptr<QvField> vectors = holding("MFVec2f", "[1 2, 3 4]");
   std::unique_ptr<QvField> numbers = holding("MFFloat", "[1,2,3,4,5,6,7,8,9,10,11]");
   std::unique_ptr<QvField> matrix = holding("SFMatrix", "1 0 0 0 0 1 0 0 0 0 1 0 0 0 0 1");
-  theContext.indentLevel = 2;
+  indentLevel = 2;
   EXPECT_EQ(written(*vectors), " [ 1 2,\n\t\t\t3 4 ]\n");
   EXPECT_EQ(written(*numbers), " [ 1, 2, 3, 4, 5, 6, 7, 8, 9, 10,\n\t\t\t 11 ]\n");
   EXPECT_EQ(written(*matrix), " 1 0 0 0\n\t\t\t 0 1 0 0\n\t\t\t 0 0 1 0\n\t\t\t 0 0 0 1\n");
-  EXPECT_EQ(theContext.indentLevel, 2);
+  EXPECT_EQ(indentLevel, 2);
 }
 
 TEST_F(FieldFixture, PrecisionZeroWritesTheNumbersAsTheyAre) {

@@ -7,15 +7,15 @@
 #include <cstdlib>
 #include <string>
 
-#include "driver/LibraryState.h"
-#include "driver/QvContext.h"
+#include "core/RunState.h"
+#include "core/QvContext.h"
 #include "driver/Translation.h"
 #include "nodes/QvCone.h"
 #include "nodes/QvCube.h"
 #include "nodes/QvGroup.h"
 #include "nodes/QvTexture2.h"
 #include "reader/NodeReader.h"
-#include "reader/QvNode.h"
+#include "scene/QvNode.h"
 #include "support/RecordingView.h"
 #include "support/TestNodes.h"
 
@@ -26,21 +26,21 @@ class NodeCopyTest : public ::testing::Test {
  protected:
   void SetUp() override {
     theContext.setView(&view_);
-    extensionsEnabled = true;
+    theRun.extensionsEnabled = true;
   }
   void TearDown() override {
     target_.reset();
     root_.reset();
-    currentInput = nullptr;
+    theRun.defNames = nullptr;
     input_.reset();
     theContext.setView(nullptr);
-    endOfRunCleanUp();
+    theRun.reset();
   }
 
   // Reads `body` as the scene's root node.
   QvNode* read(const std::string& body) {
     input_ = std::make_unique<TextInput>("#VRML V1.0 ascii\n" + body);
-    currentInput = input_->get();
+    theRun.defNames = &input_->get()->defNames();
     QvNode* root = nullptr;
     EXPECT_TRUE(readScene(input_->get(), root));
     root_ = std::make_unique<QvNodeRef>(root);
@@ -57,7 +57,10 @@ class NodeCopyTest : public ::testing::Test {
     char* text = nullptr;
     size_t size = 0;
     FILE* out = open_memstream(&text, &size);
-    node->write(out);
+    {
+      SceneWriter writer(out);
+      node->write(writer);
+    }
     std::fclose(out);
     std::string result(text, size);
     std::free(text);
@@ -95,7 +98,7 @@ TEST_F(NodeCopyTest, ACopyHoldsTheValuesOfTheMomentOfCopying) {
   // The name Base now belongs to the copy, so the original Sphere reads the
   // copy's width too.
   EXPECT_EQ(written(static_cast<QvGroupNode*>(group)->getChild(1)), "Sphere {\n\tradius 4\n}\n\n");
-  EXPECT_EQ(currentInput->findName(QvAtom("Base")), copy->getChild(0));
+  EXPECT_EQ(theRun.defNames->findName(QvAtom("Base")), copy->getChild(0));
   EXPECT_EQ(view_.transcript(), "");
 }
 
@@ -106,7 +109,7 @@ TEST_F(NodeCopyTest, ANamedNodeCopiedTwiceIsFoundAsTheSecondCopy) {
   ball->evaluate(copies, true);
   ball->evaluate(copies, true);
   ASSERT_EQ(copies->getNumChildren(), 2);
-  EXPECT_EQ(currentInput->findName(QvAtom("Ball")), copies->getChild(1));
+  EXPECT_EQ(theRun.defNames->findName(QvAtom("Ball")), copies->getChild(1));
   EXPECT_STREQ(copies->getChild(0)->getName(), "Ball");
   EXPECT_EQ(copies->getChild(0)->line, ball->line);
   EXPECT_TRUE(copies->getChild(0)->fileName.isEmpty());

@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "reader/QvAtom.h"
-#include "reader/QvAtomPool.h"
-#include "reader/QvNameTable.h"
-#include "reader/QvPointerList.h"
+#include "core/QvAtom.h"
+#include "core/QvAtomPool.h"
+#include "core/QvNameTable.h"
+#include "core/QvPointerList.h"
 
 namespace lumeric {
 namespace {

@@ -1,10 +1,10 @@
-#include "reader/FieldExpression.h"
+#include "scene/FieldExpression.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "support/RecordingView.h"
 #include "support/TestNodes.h"
 

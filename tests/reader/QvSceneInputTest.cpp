@@ -4,9 +4,9 @@
 
 #include <string>
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
 #include "driver/Translation.h"
-#include "reader/FieldExpression.h"
+#include "scene/FieldExpression.h"
 #include "support/RecordingView.h"
 #include "support/TestNodes.h"
 
@@ -68,7 +68,7 @@ TEST_F(SceneInputTest, ACommentThatEndsTheFileIsReportedAndReadingGoesOn) {
 TEST_F(SceneInputTest, NamesOfEachKind) {
   struct {
     std::string text;
-    int kind;
+    QvSceneInput::NameKind kind;
     std::string name;
   } cases[] = {
       {"fields [", QvSceneInput::kLowerName, "fields"},

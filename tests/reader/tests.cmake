@@ -2,6 +2,5 @@ set(LUMERIC_READER_TESTS
   reader/AtomsAndTablesTest.cpp
   reader/FieldExpressionTest.cpp
   reader/HostileSceneTest.cpp
-  reader/NumberTextTest.cpp
   reader/QvSceneInputTest.cpp
 )

@@ -1,7 +1,7 @@
 #include "support/RecordingView.h"
 
-#include "driver/QvContext.h"
-#include "driver/Translation.h"
+#include "core/QvContext.h"
+#include "core/RunState.h"
 
 namespace lumeric {
 
@@ -30,7 +30,7 @@ void RecordedTest::SetUp() { theContext.setView(&view); }
 
 void RecordedTest::TearDown() {
   theContext.setView(nullptr);
-  endOfRunCleanUp();
+  theRun.reset();
 }
 
 }  // namespace lumeric

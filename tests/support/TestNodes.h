@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <string>
 
-#include "reader/QvNode.h"
+#include "scene/QvNode.h"
 #include "reader/QvSceneInput.h"
 
 namespace lumeric {
@@ -15,7 +15,8 @@ class PlainTestNode : public QvNode {
  public:
   QvFieldTable* getFieldTable() override { return nullptr; }
   void evaluate(QvGroupNode*, bool) override {}
-  void write(FILE*) override {}
+  void write(SceneWriter&) override {}
+  bool readInstance(QvSceneInput*) override { return true; }
   const char* getClassName() const override { return "PlainTestNode"; }
 };
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "driver/LibraryState.h"
+#include "core/RunState.h"
 #include "expr/TermConversions.h"
 #include "expr/functions/FunctionMessages.h"
 #include "expr/functions/RandomGenerator.h"

@@ -3,7 +3,8 @@
 #include <cstdarg>
 #include <cstdio>
 
-#include "driver/QvContext.h"
+#include "core/QvContext.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -14,7 +15,7 @@ namespace {
 void post(FieldExpression* at, const char* format, va_list args) {
   char text[QvContext::kMessageLimit + 1];
   std::vsnprintf(text, sizeof text, format, args);
-  theContext.reportAtExpression(at, "%s", text);
+  reportAtExpression(at, "%s", text);
 }
 
 }  // namespace

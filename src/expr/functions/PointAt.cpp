@@ -5,7 +5,7 @@
 
 #include "expr/FieldReferences.h"
 #include "expr/functions/FunctionMessages.h"
-#include "reader/FieldExpression.h"
+#include "scene/FieldExpression.h"
 
 namespace lumeric {
 

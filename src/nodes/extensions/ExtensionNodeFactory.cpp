@@ -3,9 +3,9 @@
 #include "nodes/extensions/QvPrecisionStatement.h"
 #include "nodes/extensions/QvPrintStatement.h"
 #include "nodes/extensions/QvUseStatement.h"
-#include "reader/NodeClassTable.h"
-#include "reader/NodeFactory.h"
-#include "reader/QvInclude.h"
+#include "scene/NodeClassTable.h"
+#include "nodes/NodeFactories.h"
+#include "nodes/extensions/QvInclude.h"
 
 namespace lumeric {
 

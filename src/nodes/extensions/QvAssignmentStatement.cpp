@@ -4,6 +4,7 @@
 
 #include "expr/Evaluation.h"
 #include "reader/QvSceneInput.h"
+#include "reader/ReadErrors.h"
 
 namespace lumeric {
 
@@ -25,15 +26,15 @@ bool QvAssignmentStatement::readInstance(QvSceneInput* in) {
     expression_.line = in->getLine();
     expression_.owner = this;
   } else {
-    theContext.readError(in, "Set expression too long.  Length must be less than %d bytes.", kMaxText);
+    readError(in, "Set expression too long.  Length must be less than %d bytes.", kMaxText);
   }
   return true;
 }
 
 void QvAssignmentStatement::evaluate(QvGroupNode*, bool) { evaluateTerm(&expression_); }
 
-void QvAssignmentStatement::write(FILE*) {
-  visit([] {});
+void QvAssignmentStatement::write(SceneWriter&) {
+  NodeVisit visit(this);
 }
 
 }  // namespace lumeric

@@ -14,7 +14,7 @@ class QvAssignmentStatement : public QvStatementNode {
   static constexpr int kMaxText = 512;
 
   void evaluate(QvGroupNode* parent, bool copy) override;
-  void write(FILE* out) override;
+  void write(SceneWriter& out) override;
   bool readInstance(QvSceneInput* in) override;
 
   const FieldExpression& expression() const { return expression_; }

@@ -10,7 +10,7 @@ namespace lumeric {
 class QvOutputToStatement : public QvStatementNode {
  public:
   const char* getClassName() const override { return "OUTPUT_TO"; }
-  void write(FILE* out) override;
+  void write(SceneWriter& out) override;
   bool readInstance(QvSceneInput* in) override;
 };
 

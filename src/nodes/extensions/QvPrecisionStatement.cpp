@@ -1,6 +1,6 @@
 #include "nodes/extensions/QvPrecisionStatement.h"
 
-#include "driver/LibraryState.h"
+#include "core/RunState.h"
 #include "expr/Evaluation.h"
 #include "reader/QvSceneInput.h"
 
@@ -20,11 +20,13 @@ void QvPrecisionStatement::setQuantum() {
 void QvPrecisionStatement::evaluate(QvGroupNode*, bool) { setQuantum(); }
 
 void QvPrecisionStatement::bindParents() {
-  visit([this] { setQuantum(); });
+  NodeVisit visit(this);
+  setQuantum();
 }
 
-void QvPrecisionStatement::write(FILE*) {
-  visit([this] { setQuantum(); });
+void QvPrecisionStatement::write(SceneWriter&) {
+  NodeVisit visit(this);
+  setQuantum();
 }
 
 }  // namespace lumeric

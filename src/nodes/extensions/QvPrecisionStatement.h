@@ -13,7 +13,7 @@ class QvPrecisionStatement : public QvStatementNode {
   const char* getClassName() const override { return "PRECISION"; }
   void evaluate(QvGroupNode* parent, bool copy) override;
   void bindParents() override;
-  void write(FILE* out) override;
+  void write(SceneWriter& out) override;
   bool readInstance(QvSceneInput* in) override;
 
  private:

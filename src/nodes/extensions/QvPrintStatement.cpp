@@ -2,6 +2,7 @@
 
 #include "expr/Evaluation.h"
 #include "reader/QvSceneInput.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -14,16 +15,17 @@ bool QvPrintStatement::readInstance(QvSceneInput* in) {
 void QvPrintStatement::report() {
   ScalarTerm* value = asScalar(evaluateTerm(&expression_));
   if (value != nullptr) {
-    theContext.warnAtExpression(&expression_, "%s is %g", expression_.text(), value->value);
+    warnAtExpression(&expression_, "%s is %g", expression_.text(), value->value);
   } else {
-    theContext.reportAtExpression(&expression_, "Can not evaluate PRINT expression");
+    reportAtExpression(&expression_, "Can not evaluate PRINT expression");
   }
 }
 
 void QvPrintStatement::evaluate(QvGroupNode*, bool) { report(); }
 
-void QvPrintStatement::write(FILE*) {
-  visit([this] { report(); });
+void QvPrintStatement::write(SceneWriter&) {
+  NodeVisit visit(this);
+  report();
 }
 
 }  // namespace lumeric

@@ -11,7 +11,7 @@ class QvPrintStatement : public QvStatementNode {
  public:
   const char* getClassName() const override { return "PRINT"; }
   void evaluate(QvGroupNode* parent, bool copy) override;
-  void write(FILE* out) override;
+  void write(SceneWriter& out) override;
   bool readInstance(QvSceneInput* in) override;
 
  private:

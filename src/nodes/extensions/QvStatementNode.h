@@ -6,9 +6,11 @@
 
 #include <string>
 
-#include "reader/FieldExpression.h"
+#include "scene/FieldExpression.h"
 #include "reader/NodeReader.h"
-#include "reader/QvNode.h"
+#include "scene/NodeVisit.h"
+#include "scene/QvNode.h"
+#include "writer/SceneWriter.h"
 
 namespace lumeric {
 
@@ -16,32 +18,16 @@ class QvStatementNode : public QvNode {
  public:
   QvFieldTable* getFieldTable() override { return nullptr; }
   void evaluate(QvGroupNode*, bool) override {}
-  void write(FILE*) override {}
+  void write(SceneWriter&) override {}
   void check() override {}
+  bool readInstance(QvSceneInput*) override { return true; }
 
  protected:
   QvStatementNode() { isBuiltIn = 0; }
 
   // One value text, or an empty text at the end of the file.
   static std::string readWord(QvSceneInput* in);
-  // Records the enclosing node, pushes this statement, runs `body`, pops.
-  template <typename Body>
-  void visit(Body body);
 };
-
-}  // namespace lumeric
-
-#include "driver/QvContext.h"
-
-namespace lumeric {
-
-template <typename Body>
-void QvStatementNode::visit(Body body) {
-  parent = theContext.topNode();
-  theContext.pushNode(this);
-  body();
-  theContext.popNode();
-}
 
 }  // namespace lumeric
 

@@ -3,8 +3,10 @@
 #include <string>
 
 #include "expr/Evaluation.h"
-#include "reader/QvGroupNode.h"
+#include "reader/ReadErrors.h"
+#include "scene/QvGroupNode.h"
 #include "reader/QvSceneInput.h"
+#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -16,31 +18,30 @@ bool QvUseStatement::readInstance(QvSceneInput* in) {
     expression_.owner = this;
     expression_.line = in->getLine();
   } else {
-    theContext.readError(in, "Use expression too long.  Length must be less than %d bytes.", kMaxText);
+    readError(in, "Use expression too long.  Length must be less than %d bytes.", kMaxText);
   }
   return true;
 }
 
 void QvUseStatement::evaluate(QvGroupNode* parentGroup, bool copy) {
-  visit([&] {
-    if (!copy || parentGroup == nullptr) return;
-    QvUseStatement* duplicate = new QvUseStatement();
-    duplicate->line = line;
-    duplicate->expression_ = expression_;
-    duplicate->expression_.owner = duplicate;
-    parentGroup->addChild(duplicate);
-  });
+  NodeVisit visit(this);
+  if (!copy || parentGroup == nullptr) return;
+  QvUseStatement* duplicate = new QvUseStatement();
+  duplicate->line = line;
+  duplicate->expression_ = expression_;
+  duplicate->expression_.owner = duplicate;
+  parentGroup->addChild(duplicate);
 }
 
-void QvUseStatement::write(FILE* out) {
-  theContext.writeIndented(out, "%s", "USE");
-  parent = theContext.topNode();
+void QvUseStatement::write(SceneWriter& out) {
+  out.line("%s", "USE");
+  parent = theNodeStack.top();
   StringTerm* name = asString(evaluateTerm(&expression_));
   if (name != nullptr && name->text != nullptr) {
-    std::fprintf(out, " %s\n", name->text);
+    out.format(" %s\n", name->text);
   } else {
-    theContext.reportAtExpression(&expression_, "Cannot evaluate USE expression");
-    std::fprintf(out, " %s\n", "ERROR: NO NAME DEFINED");
+    reportAtExpression(&expression_, "Cannot evaluate USE expression");
+    out.format(" %s\n", "ERROR: NO NAME DEFINED");
   }
 }
 

@@ -14,7 +14,7 @@ class QvUseStatement : public QvStatementNode {
 
   const char* getClassName() const override { return "USE"; }
   void evaluate(QvGroupNode* parent, bool copy) override;
-  void write(FILE* out) override;
+  void write(SceneWriter& out) override;
   bool readInstance(QvSceneInput* in) override;
 
  private:

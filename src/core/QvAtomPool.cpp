@@ -1,0 +1,96 @@
+#include "core/QvAtomPool.h"
+
+#include <cstdlib>
+#include <initializer_list>
+#include <cstring>
+#include <new>
+
+namespace lumeric {
+
+namespace {
+QvAtomPool* thePool = nullptr;
+}
+
+QvAtomPool& QvAtomPool::instance() {
+  if (thePool == nullptr) thePool = new QvAtomPool();
+  return *thePool;
+}
+
+void QvAtomPool::freePool() {
+  delete thePool;
+  thePool = nullptr;
+}
+
+bool QvAtomPool::exists() { return thePool != nullptr; }
+
+QvAtomPool::QvAtomPool() = default;
+
+QvAtomPool::~QvAtomPool() {
+  for (Entry*& head : buckets_) {
+    while (head != nullptr) {
+      Entry* next = head->next;
+      delete head;
+      head = next;
+    }
+  }
+  for (Block* chain : {current_, large_}) {
+    while (chain != nullptr) {
+      Block* previous = chain->previous;
+      std::free(chain);
+      chain = previous;
+    }
+  }
+}
+
+uint32_t QvAtomPool::hash(const char* text, size_t length) {
+  uint32_t h = 0;
+  int shift = 0;
+  for (size_t i = 0; i < length; ++i) {
+    int32_t b = static_cast<signed char>(text[i]);
+    h ^= static_cast<uint32_t>(b) << shift;
+    shift += 5;
+    if (shift > 24) shift -= 24;
+  }
+  return h;
+}
+
+char* QvAtomPool::store(const char* text, size_t length) {
+  size_t need = length + 1;
+  Block* block;
+  if (need >= kBlockSize) {
+    block = static_cast<Block*>(std::malloc(sizeof(Block) + need));
+    if (block == nullptr) throw std::bad_alloc();
+    block->previous = large_;
+    block->size = need;
+    block->used = 0;
+    large_ = block;
+  } else {
+    if (current_ == nullptr || current_->size - current_->used < need) {
+      block = static_cast<Block*>(std::malloc(sizeof(Block) + kBlockSize));
+      if (block == nullptr) throw std::bad_alloc();
+      block->previous = current_;
+      block->size = kBlockSize;
+      block->used = 0;
+      current_ = block;
+    }
+    block = current_;
+  }
+  char* place = block->data() + block->used;
+  std::memcpy(place, text, length);
+  place[length] = '\0';
+  block->used += need;
+  return place;
+}
+
+const char* QvAtomPool::intern(const char* text, size_t length) {
+  uint32_t h = hash(text, length);
+  Entry*& head = buckets_[h % kBuckets];
+  for (Entry* e = head; e != nullptr; e = e->next) {
+    if (e->hash == h && e->length == length && std::memcmp(e->text, text, length) == 0) return e->text;
+  }
+  Entry* entry = new Entry{store(text, length), length, h, head};
+  head = entry;
+  return entry->text;
+}
+
+}  // namespace lumeric

@@ -1,0 +1,58 @@
+// The pool behind QvAtom: a 1999-bucket hash table of texts stored in
+// 4000-byte blocks.  It exists from its first use to freePool(), which the
+// end-of-run clean-up calls; every atom handle of the run dies then.
+#ifndef LUMERIC_CORE_QVATOMPOOL_H
+#define LUMERIC_CORE_QVATOMPOOL_H
+
+#include <cstddef>
+#include <cstdint>
+
+namespace lumeric {
+
+class QvAtomPool {
+ public:
+  static constexpr unsigned kBuckets = 1999;
+  static constexpr size_t kBlockSize = 4000;
+
+  // The pool of the run, created on first use.
+  static QvAtomPool& instance();
+  // Frees the pool with all its texts.  Safe when there is none.
+  static void freePool();
+  static bool exists();
+
+  // The stored copy of `text` (length bytes, no terminator needed).
+  const char* intern(const char* text, size_t length);
+
+  // The hash of the atom table: bytes taken as signed 8-bit values are
+  // xor-ed in at a shift that grows by 5 and wraps past 24.
+  static uint32_t hash(const char* text, size_t length);
+
+  QvAtomPool(const QvAtomPool&) = delete;
+  QvAtomPool& operator=(const QvAtomPool&) = delete;
+
+ private:
+  struct Entry {
+    const char* text;
+    size_t length;
+    uint32_t hash;
+    Entry* next;
+  };
+  struct Block {
+    Block* previous;
+    size_t used;
+    size_t size;
+    char* data() { return reinterpret_cast<char*>(this + 1); }
+  };
+
+  QvAtomPool();
+  ~QvAtomPool();
+  char* store(const char* text, size_t length);
+
+  Entry* buckets_[kBuckets] = {};
+  Block* current_ = nullptr;  // the block new short texts go to
+  Block* large_ = nullptr;    // texts that got an allocation of their own
+};
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_CORE_QVATOMPOOL_H

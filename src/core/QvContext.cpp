@@ -1,0 +1,104 @@
+#include "core/QvContext.h"
+
+#include <cstdio>
+
+namespace lumeric {
+
+QvContext theContext;
+
+bool QvContext::pushFile(const char* name) {
+  if (fileDepth + 1 >= kMaxFiles) return false;
+  fileNames[++fileDepth] = name;
+  return true;
+}
+
+void QvContext::popFile() {
+  if (fileDepth >= 0) fileNames[fileDepth--] = nullptr;
+}
+
+const char* QvContext::topFile() const { return fileDepth >= 0 ? fileNames[fileDepth] : nullptr; }
+
+void QvContext::post(int flag, const char* prefix, const char* format, va_list args) {
+  char text[kMessageLimit + 1];
+  int used = std::snprintf(text, sizeof text, "%s", prefix);
+  if (used < 0) used = 0;
+  if (used < kMessageLimit) std::vsnprintf(text + used, sizeof text - static_cast<size_t>(used), format, args);
+  if (view != nullptr) view->post(text, flag);
+}
+
+void QvContext::postAt(int flag, bool hasPlace, const char* file, int line, const char* format, va_list args) {
+  char prefix[kMessageLimit + 1] = "";
+  if (hasPlace && file != nullptr && file[0] != '\0') {
+    std::snprintf(prefix, sizeof prefix, "File \"%s\" Line %d: ", file, line);
+  } else if (hasPlace) {
+    std::snprintf(prefix, sizeof prefix, "Line %d: ", line);
+  }
+  post(flag, prefix, format, args);
+}
+
+Failure QvContext::reportAt(const char* file, int line, const char* format, ...) {
+  va_list args;
+  va_start(args, format);
+  postAt(kError, true, file, line, format, args);
+  va_end(args);
+  return Failure();
+}
+
+void QvContext::warnAt(const char* file, int line, const char* format, ...) {
+  va_list args;
+  va_start(args, format);
+  postAt(kWarning, true, file, line, format, args);
+  va_end(args);
+}
+
+Failure QvContext::report(const char* format, ...) {
+  va_list args;
+  va_start(args, format);
+  post(kError, "", format, args);
+  va_end(args);
+  return Failure();
+}
+
+void QvContext::warn(const char* format, ...) {
+  va_list args;
+  va_start(args, format);
+  post(kWarning, "", format, args);
+  va_end(args);
+}
+
+Failure QvContext::reportInFile(const char* format, ...) {
+  char prefix[kMessageLimit + 1] = "";
+  if (topFile() != nullptr) std::snprintf(prefix, sizeof prefix, "File \"%s\" ", topFile());
+  va_list args;
+  va_start(args, format);
+  post(kError, prefix, format, args);
+  va_end(args);
+  return Failure();
+}
+
+Failure QvContext::reportAtLineInFile(int line, const char* format, ...) {
+  // The file is named whenever there is one, even with an empty name, as
+  // the reader's messages always did.
+  char prefix[kMessageLimit + 1];
+  if (topFile() != nullptr) {
+    std::snprintf(prefix, sizeof prefix, "File \"%s\" Line %d: ", topFile(), line);
+  } else {
+    std::snprintf(prefix, sizeof prefix, "Line %d: ", line);
+  }
+  va_list args;
+  va_start(args, format);
+  post(kError, prefix, format, args);
+  va_end(args);
+  return Failure();
+}
+
+void QvContext::programError(const char* operation, const char* format, ...) {
+  char text[kMessageLimit + 1];
+  va_list args;
+  va_start(args, format);
+  std::vsnprintf(text, sizeof text, format, args);
+  va_end(args);
+  std::fprintf(stderr, "VRML error in %s(): %s", operation, text);
+}
+
+}  // namespace lumeric

@@ -1,0 +1,82 @@
+// The one library-wide context: the stack of scene files being read, the
+// expression serial numbers and the host's view.  Every message of the
+// library leaves through here.  The context knows places only as a file
+// name and a line; the layers above turn their nodes, expressions and
+// inputs into places (scene/SceneMessages.h, reader/ReadErrors.h).
+#ifndef LUMERIC_CORE_QVCONTEXT_H
+#define LUMERIC_CORE_QVCONTEXT_H
+
+#include <cstdarg>
+
+#include "core/Failure.h"
+#include "lumeric/lumeric.h"
+
+namespace lumeric {
+
+class QvContext {
+ public:
+  static constexpr int kMaxFiles = 10;
+  static constexpr int kMessageLimit = 999;
+  // Flags a message is posted with.
+  static constexpr int kWarning = 0;
+  static constexpr int kError = 1;
+
+  QvContext() = default;
+  QvContext(const QvContext&) = delete;
+  QvContext& operator=(const QvContext&) = delete;
+
+  void setView(CReportErrorView* newView) { view = newView; }
+
+  // The file stack stores the caller's pointer; the caller keeps the text
+  // alive while it is on the stack.  pushFile fails, changing nothing, when
+  // kMaxFiles names are already there.
+  bool pushFile(const char* name);
+  void popFile();
+  const char* topFile() const;
+
+  // Message operations.  Each builds "prefix + message", cut at 999
+  // characters, and posts it to the view with kError (report) or kWarning.
+  //
+  // At a place: the prefix is "File \"%s\" Line %d: " when `file` is not
+  // empty, else "Line %d: ".
+  Failure reportAt(const char* file, int line, const char* format, ...) __attribute__((format(printf, 4, 5)));
+  void warnAt(const char* file, int line, const char* format, ...) __attribute__((format(printf, 4, 5)));
+  // Without a place: no prefix.
+  Failure report(const char* format, ...) __attribute__((format(printf, 2, 3)));
+  void warn(const char* format, ...) __attribute__((format(printf, 2, 3)));
+  // In the file on top of the stack: "File \"%s\" " when there is one.
+  Failure reportInFile(const char* format, ...) __attribute__((format(printf, 2, 3)));
+  // At `line` of the file on top of the stack: "File \"%s\" Line %d: " when
+  // there is one, else "Line %d: ".
+  Failure reportAtLineInFile(int line, const char* format, ...) __attribute__((format(printf, 3, 4)));
+  // The forms above for wrappers that have already started their arguments.
+  // A null `file` with `hasPlace` false means no prefix.
+  void postAt(int flag, bool hasPlace, const char* file, int line, const char* format, va_list args);
+
+  // Writes "VRML error in %s(): %s" to standard error; never to the host.
+  static void programError(const char* operation, const char* format, ...)
+      __attribute__((format(printf, 2, 3)));
+
+  // Starts an evaluation: a new serial, which becomes the current one.
+  int startEvaluation() { currentSerial = ++serialCounter; return currentSerial; }
+  // Draws a serial without making it current.
+  int drawSerial() { return ++serialCounter; }
+
+  int fileDepth = -1;
+  const char* fileNames[kMaxFiles] = {};
+  int parseStatus = 0;
+  // Serials outlive runs: a serial is never reused, so an expression's mark
+  // from an earlier run never matches the evaluation of a later one.
+  int currentSerial = 0;
+  int serialCounter = 0;
+  CReportErrorView* view = nullptr;
+
+ private:
+  void post(int flag, const char* prefix, const char* format, va_list args);
+};
+
+extern QvContext theContext;
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_CORE_QVCONTEXT_H

@@ -1,0 +1,50 @@
+#include "core/QvPointerList.h"
+
+#include <cstring>
+
+namespace lumeric {
+
+QvPointerList::~QvPointerList() { delete[] items_; }
+
+void QvPointerList::grow(int need) {
+  if (need <= capacity_) return;
+  int capacity = capacity_ == 0 ? 4 : capacity_;
+  while (capacity < need) capacity *= 2;
+  void** items = new void*[capacity];
+  if (count_ > 0) std::memcpy(items, items_, sizeof(void*) * count_);
+  delete[] items_;
+  items_ = items;
+  capacity_ = capacity;
+}
+
+void QvPointerList::append(void* item) {
+  grow(count_ + 1);
+  items_[count_++] = item;
+}
+
+void QvPointerList::insert(void* item, int index) {
+  if (index < 0 || index > count_) index = count_;
+  grow(count_ + 1);
+  std::memmove(items_ + index + 1, items_ + index, sizeof(void*) * (count_ - index));
+  items_[index] = item;
+  ++count_;
+}
+
+void QvPointerList::remove(int index) {
+  if (index < 0 || index >= count_) return;
+  std::memmove(items_ + index, items_ + index + 1, sizeof(void*) * (count_ - index - 1));
+  --count_;
+}
+
+int QvPointerList::find(const void* item) const {
+  for (int i = 0; i < count_; ++i) {
+    if (items_[i] == item) return i;
+  }
+  return -1;
+}
+
+void QvPointerList::truncate(int length) {
+  if (length >= 0 && length < count_) count_ = length;
+}
+
+}  // namespace lumeric

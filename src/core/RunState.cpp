@@ -1,0 +1,78 @@
+#include "core/RunState.h"
+
+#include <cmath>
+
+#include "core/QvAtom.h"
+#include "core/QvAtomPool.h"
+#include "core/QvContext.h"
+#include "core/QvNameTable.h"
+#include "core/QvPointerList.h"
+#include "lumeric/lumeric.h"
+
+unsigned long gWarn = 0;
+
+namespace lumeric {
+
+RunState theRun;
+double precisionQuantum = 0.0001;
+
+void RunState::atEndOfRun(void (*release)()) {
+  for (int k = 0; k < releaseCount_; ++k) {
+    if (releases_[k] == release) return;
+  }
+  if (releaseCount_ < kMaxReleases) releases_[releaseCount_++] = release;
+}
+
+void RunState::reset() {
+  if (nameRegistry != nullptr) {
+    nameRegistry->forEachValue([](void* list) { delete static_cast<QvPointerList*>(list); });
+    delete nameRegistry;
+    nameRegistry = nullptr;
+  }
+  QvAtomPool::freePool();
+  for (int k = 0; k < releaseCount_; ++k) releases_[k]();
+  outputFile = nullptr;
+  outputFileName[0] = '\0';
+  sceneMayChooseOutput = true;
+  extensionsEnabled = true;
+  defNames = nullptr;
+  readingDepth = 0;
+  parseDepth = 0;
+  theContext.fileDepth = -1;
+}
+
+void addName(QvNode* node, const char* text) {
+  if (theRun.nameRegistry == nullptr) theRun.nameRegistry = new QvNameTable();
+  QvAtom key(text);
+  void* value = nullptr;
+  if (!theRun.nameRegistry->find(key.key(), value)) {
+    value = new QvPointerList();
+    theRun.nameRegistry->enter(key.key(), value);
+  }
+  static_cast<QvPointerList*>(value)->append(node);
+}
+
+void removeName(QvNode* node, const char* text) {
+  void* value = nullptr;
+  QvPointerList* list = nullptr;
+  if (theRun.nameRegistry != nullptr && theRun.nameRegistry->find(QvAtom(text).key(), value)) {
+    list = static_cast<QvPointerList*>(value);
+  }
+  int index = list == nullptr ? -1 : list->find(node);
+  if (index < 0) {
+    QvContext::programError("QvNode::removeName", "Program Error: Name \"%s\" (node %p) is not in dictionary", text,
+                            static_cast<void*>(node));
+    return;
+  }
+  list->remove(index);
+}
+
+double roundToPrecision(double v) {
+  double q = precisionQuantum;
+  if (!(q > 0)) return v;
+  return std::round(v / q) * q;
+}
+
+bool warningsEnabled(unsigned long bit) { return (gWarn & bit) != 0; }
+
+}  // namespace lumeric

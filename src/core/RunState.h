@@ -1,0 +1,95 @@
+// The state of the translator.  One translation runs at a time, on the host's
+// thread; nothing here is locked.
+//
+// What belongs to one run lives in theRun and is returned to its start by
+// theRun.reset() at the end of every run.  What outlives runs is kept apart
+// below it.
+#ifndef LUMERIC_CORE_RUNSTATE_H
+#define LUMERIC_CORE_RUNSTATE_H
+
+#include <cstdio>
+
+namespace lumeric {
+
+class FieldExpression;
+class QvDefTable;
+class QvNameTable;
+class QvNode;
+
+constexpr int kOutputNameSize = 256;
+// How deep nodes may be nested in a scene, and so how many nodes the visit
+// stack keeps: every pass over the tree then finds each node's enclosing
+// nodes.  Included files count their INCLUDE statement as a level.
+constexpr int kMaxNodeDepth = 63;
+// How deep field references may nest parses of other fields' expressions.
+constexpr int kMaxNestedParses = 200;
+
+class RunState {
+ public:
+  RunState() = default;
+  RunState(const RunState&) = delete;
+  RunState& operator=(const RunState&) = delete;
+
+  // Frees everything the run made (the name registry, the atom pool and
+  // whatever the layers above installed with atEndOfRun, in that order) and
+  // returns every member to its start value.
+  void reset();
+  // Adds an operation reset() calls, after those added before it.  Adding
+  // the same operation again changes nothing.
+  void atEndOfRun(void (*release)());
+
+  // The output scene file; OUTPUT_TO may open it while the scene is read.
+  FILE* outputFile = nullptr;
+  // The name OUTPUT_TO gave the output file.
+  char outputFileName[kOutputNameSize] = "";
+  // Whether OUTPUT_TO may open a file in this run (not when the caller
+  // chose the output).
+  bool sceneMayChooseOutput = true;
+  // Whether the extension statements, VARNAME and the extension nodes are
+  // recognised.
+  bool extensionsEnabled = true;
+  // The DEF table of the input being read and evaluated; it serves name
+  // look-ups and names the copies of named nodes.
+  QvDefTable* defNames = nullptr;
+  // Every named node, by name: a QvPointerList of nodes per name.
+  QvNameTable* nameRegistry = nullptr;
+  // How deep the node reader is nested now.
+  int readingDepth = 0;
+  // The parses of field expressions in progress, innermost last.
+  FieldExpression* parsesInProgress[kMaxNestedParses] = {};
+  int parseDepth = 0;
+
+ private:
+  static constexpr int kMaxReleases = 8;
+  void (*releases_[kMaxReleases])() = {};
+  int releaseCount_ = 0;
+};
+
+extern RunState theRun;
+
+// Appends `node` to the registry list of `text`, creating registry and list
+// on first use.
+void addName(QvNode* node, const char* text);
+// Removes `node` from the list of `text`; a program error when it is not
+// there.
+void removeName(QvNode* node, const char* text);
+
+// --- What outlives runs ---------------------------------------------------
+
+// The step every written number is rounded to; 0 or less turns rounding
+// off.  Set by PRECISION and never reset between runs.
+extern double precisionQuantum;
+
+// `v` rounded to the nearest multiple of precisionQuantum (halves away from
+// zero); unchanged when the quantum is 0 or less.
+double roundToPrecision(double v);
+
+// The bits of gWarn (the host's warning switch, lumeric.h).
+constexpr unsigned long kWarnUnknownNodes = 2;
+constexpr unsigned long kWarnDuplicateNames = 4;
+// Whether the host asked for the warnings of `bit`.
+bool warningsEnabled(unsigned long bit);
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_CORE_RUNSTATE_H

@@ -1,0 +1,10 @@
+set(LUMERIC_CORE_SOURCES
+  src/core/CharacterClasses.cpp
+  src/core/NumberText.cpp
+  src/core/QvAtom.cpp
+  src/core/QvAtomPool.cpp
+  src/core/QvContext.cpp
+  src/core/QvNameTable.cpp
+  src/core/QvPointerList.cpp
+  src/core/RunState.cpp
+)

@@ -1,0 +1,21 @@
+// The node factories: node classes by name, installed at start-up as the
+// scene's operations (scene/SceneOperations.h).
+#ifndef LUMERIC_NODES_NODEFACTORIES_H
+#define LUMERIC_NODES_NODEFACTORIES_H
+
+namespace lumeric {
+
+class QvNode;
+
+// One of the standard VRML 1.0 classes, or null.
+QvNode* createStandardNode(const char* className);
+// One of the extension node classes (PARAMETERS, LOOP, SELECT, Ball,
+// Connect, Wall), or null.
+QvNode* createExtensionNode(const char* className);
+// The statement of a keyword (USE, SET, APPEND, DECLARE, OUTPUT_TO,
+// INCLUDE, PRECISION, PRINT), or null.
+QvNode* createStatement(const char* keyword);
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_NODES_NODEFACTORIES_H

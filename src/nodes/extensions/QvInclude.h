@@ -1,0 +1,35 @@
+// INCLUDE: reads another scene file at its place; that file's root node
+// becomes the statement's only child and stands in the output in its place.
+#ifndef LUMERIC_NODES_EXTENSIONS_QVINCLUDE_H
+#define LUMERIC_NODES_EXTENSIONS_QVINCLUDE_H
+
+#include "scene/QvFieldTable.h"
+#include "scene/QvGroupNode.h"
+
+namespace lumeric {
+
+class FieldExpression;
+
+class QvInclude : public QvGroupNode {
+ public:
+  QvInclude() { isBuiltIn = 0; }
+
+  QvFieldTable* getFieldTable() override { return &fields_; }
+  const char* getClassName() const override { return "INCLUDE"; }
+  // Passes the pass on to the included root with this statement's own
+  // arguments, so copies made from it go to the group holding the INCLUDE.
+  void evaluate(QvGroupNode* parent, bool copy) override;
+  // The included root only, with no line of its own.
+  void write(SceneWriter& out) override;
+  bool readInstance(QvSceneInput* in) override;
+
+  // Reads the file named by `nameText` through `in`; its root, or null.
+  static QvNode* includeFile(FieldExpression& nameText, QvSceneInput* in);
+
+ private:
+  QvFieldTable fields_{true};
+};
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_NODES_EXTENSIONS_QVINCLUDE_H

@@ -1,0 +1,32 @@
+// A table of node classes by name, as the node factory uses it.
+#ifndef LUMERIC_SCENE_NODECLASSTABLE_H
+#define LUMERIC_SCENE_NODECLASSTABLE_H
+
+#include <cstring>
+
+namespace lumeric {
+
+class QvNode;
+
+struct NodeClassEntry {
+  const char* name;
+  QvNode* (*create)();
+};
+
+template <class Node>
+QvNode* createNodeOf() {
+  return new Node();
+}
+
+// A new node of the class named `name` (compared exactly), or null.
+template <size_t N>
+QvNode* createFromTable(const NodeClassEntry (&table)[N], const char* name) {
+  for (const NodeClassEntry& entry : table) {
+    if (std::strcmp(entry.name, name) == 0) return entry.create();
+  }
+  return nullptr;
+}
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_SCENE_NODECLASSTABLE_H

@@ -1,0 +1,21 @@
+#include "scene/QvDefTable.h"
+
+#include "scene/QvNode.h"
+
+namespace lumeric {
+
+bool QvDefTable::addName(QvAtom name, QvNode* node) {
+  void* previous = nullptr;
+  bool wasDefined = table_.find(name.key(), previous);
+  table_.enter(name.key(), node);
+  node->setName(name, wasDefined);
+  return wasDefined;
+}
+
+QvNode* QvDefTable::findName(QvAtom name) const {
+  void* node = nullptr;
+  table_.find(name.key(), node);
+  return static_cast<QvNode*>(node);
+}
+
+}  // namespace lumeric

@@ -1,0 +1,73 @@
+// The ordered field names of a node class (or of one node, for classes whose
+// fields are declared in the file) with the class's enumeration tables.
+#ifndef LUMERIC_SCENE_QVFIELDTABLE_H
+#define LUMERIC_SCENE_QVFIELDTABLE_H
+
+#include <cstddef>
+#include <cstdio>
+#include <vector>
+
+#include "core/QvAtom.h"
+
+namespace lumeric {
+
+class QvField;
+class QvNode;
+class SceneWriter;
+
+class QvFieldTable {
+ public:
+  // A class table records where each field sits inside the node, so one
+  // entry finds the field of every instance.  A table that owns its fields
+  // belongs to one node and holds the fields themselves.
+  explicit QvFieldTable(bool ownsFields = false) : ownsFields_(ownsFields) {}
+  ~QvFieldTable();
+  QvFieldTable(const QvFieldTable&) = delete;
+  QvFieldTable& operator=(const QvFieldTable&) = delete;
+
+  void addField(QvNode* node, const char* name, QvField* field);
+  void addField(QvNode* node, QvAtom name, QvField* field);
+  // Appends (value, valueName) to the enumeration `typeName`, creating it.
+  void addEnumValue(const char* typeName, const char* valueName, int value);
+  // The enumeration's arrays (shared, owned by the table), or count 0.
+  void getEnumData(const char* typeName, int& count, const int*& values, const QvAtom*& names) const;
+
+  int getNumFields() const { return static_cast<int>(fields_.size()); }
+  QvAtom getFieldName(int index) const { return fields_[index].name; }
+  // The field at entry `index` of `node`, after attachNode(node).
+  QvField* getField(QvNode* node, int index) const;
+  // The first field named `name`, after attachNode(node), or null.
+  QvField* findField(QvNode* node, QvAtom name) const;
+  int findIndex(QvAtom name) const;
+  bool ownsFields() const { return ownsFields_; }
+
+  // Whether `node` may declare its fields: it is not built in and has
+  // none yet.
+  bool newFieldsAllowed(QvNode* node) const;
+  // A field of the named type added under `name`, for a declaration read
+  // in the file; false when the type is unknown or the name empty.
+  bool createDeclaredField(QvNode* node, QvAtom typeName, QvAtom name);
+  // Each field as an indented name and its value.
+  void writeFieldLines(SceneWriter& out, QvNode* node);
+  // " [ T n, ... ]" and then writeFieldLines.
+  void writeSpecsAndValues(SceneWriter& out, QvNode* node);
+
+ private:
+  struct Entry {
+    QvAtom name;
+    std::ptrdiff_t offset;  // class tables: the field's place in the node
+    QvField* field;         // owning tables: the field itself
+  };
+  struct Enumeration {
+    QvAtom typeName;
+    std::vector<int> values;
+    std::vector<QvAtom> names;
+  };
+  bool ownsFields_;
+  std::vector<Entry> fields_;
+  std::vector<Enumeration*> enums_;
+};
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_SCENE_QVFIELDTABLE_H

@@ -1,0 +1,57 @@
+#include "scene/SceneMessages.h"
+
+#include <cstdarg>
+
+#include "core/QvContext.h"
+#include "scene/FieldExpression.h"
+#include "scene/QvNode.h"
+
+namespace lumeric {
+
+namespace {
+
+void postAtNode(int flag, const QvNode* node, const char* format, va_list args) {
+  const char* file = node != nullptr ? node->fileName.text() : nullptr;
+  theContext.postAt(flag, node != nullptr, file, node != nullptr ? node->line : 0, format, args);
+}
+
+void postAtExpression(int flag, const FieldExpression* expr, const char* format, va_list args) {
+  const char* file = expr != nullptr && expr->owner != nullptr ? expr->owner->fileName.text() : nullptr;
+  theContext.postAt(flag, expr != nullptr, file, expr != nullptr ? expr->line : 0, format, args);
+}
+
+}  // namespace
+
+Failure reportAtNode(const QvNode* node, const char* format, ...) {
+  va_list args;
+  va_start(args, format);
+  postAtNode(QvContext::kError, node, format, args);
+  va_end(args);
+  return Failure();
+}
+
+void warnAtNode(const QvNode* node, const char* format, ...) {
+  va_list args;
+  va_start(args, format);
+  postAtNode(QvContext::kWarning, node, format, args);
+  va_end(args);
+}
+
+Failure reportAtExpression(const FieldExpression* expr, const char* format, ...) {
+  va_list args;
+  va_start(args, format);
+  postAtExpression(QvContext::kError, expr, format, args);
+  va_end(args);
+  return Failure();
+}
+
+void warnAtExpression(const FieldExpression* expr, const char* format, ...) {
+  va_list args;
+  va_start(args, format);
+  postAtExpression(QvContext::kWarning, expr, format, args);
+  va_end(args);
+}
+
+void reportAt(const FieldExpression* at, const char* message) { reportAtExpression(at, "%s", message); }
+
+}  // namespace lumeric

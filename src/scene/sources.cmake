@@ -1,0 +1,12 @@
+set(LUMERIC_SCENE_SOURCES
+  src/scene/FieldExpression.cpp
+  src/scene/NodeVisit.cpp
+  src/scene/QvDefTable.cpp
+  src/scene/QvField.cpp
+  src/scene/QvFieldTable.cpp
+  src/scene/QvGroupNode.cpp
+  src/scene/QvNode.cpp
+  src/scene/QvNodeClass.cpp
+  src/scene/SceneMessages.cpp
+  src/scene/SceneOperations.cpp
+)

@@ -1,0 +1,98 @@
+#include "writer/SceneWriter.h"
+
+#include <cstdarg>
+#include <cstring>
+#include <string>
+
+#include "core/NumberText.h"
+#include "core/RunState.h"
+
+namespace lumeric {
+
+SceneWriter& SceneWriter::text(const char* s) {
+  size_t length = std::strlen(s);
+  if (length > sizeof buffer_ / 2) {
+    flush();
+    std::fwrite(s, 1, length, stream_);
+    return *this;
+  }
+  makeRoom(length);
+  std::memcpy(buffer_ + used_, s, length);
+  used_ += length;
+  return *this;
+}
+
+SceneWriter& SceneWriter::character(char c) {
+  makeRoom(1);
+  buffer_[used_++] = c;
+  return *this;
+}
+
+SceneWriter& SceneWriter::number(double v) {
+  makeRoom(kNumberTextSize);
+  used_ += static_cast<size_t>(formatNumber(buffer_ + used_, v));
+  return *this;
+}
+
+SceneWriter& SceneWriter::rounded(double v) { return number(roundToPrecision(v)); }
+
+SceneWriter& SceneWriter::integer(long v) {
+  makeRoom(kNumberTextSize);
+  used_ += static_cast<size_t>(formatInteger(buffer_ + used_, v));
+  return *this;
+}
+
+void SceneWriter::formatted(const char* format, va_list args) {
+  va_list again;
+  va_copy(again, args);
+  int length = std::vsnprintf(nullptr, 0, format, args);
+  if (length > 0) {
+    std::string text(static_cast<size_t>(length), '\0');
+    std::vsnprintf(&text[0], text.size() + 1, format, again);
+    this->text(text.c_str());
+  }
+  va_end(again);
+}
+
+SceneWriter& SceneWriter::format(const char* format, ...) {
+  va_list args;
+  va_start(args, format);
+  formatted(format, args);
+  va_end(args);
+  return *this;
+}
+
+SceneWriter& SceneWriter::indentation() {
+  for (int k = 0; k < level_; ++k) character('\t');
+  return *this;
+}
+
+SceneWriter& SceneWriter::line(const char* format, ...) {
+  indentation();
+  va_list args;
+  va_start(args, format);
+  formatted(format, args);
+  va_end(args);
+  return *this;
+}
+
+void SceneWriter::openNode(const char* name, const char* className) {
+  if (name != nullptr && name[0] != '\0') {
+    line("DEF %s %s {\n", name, className);
+  } else {
+    line("%s {\n", className);
+  }
+  ++level_;
+}
+
+void SceneWriter::closeNode() {
+  --level_;
+  line("}\n\n");
+}
+
+void SceneWriter::flush() {
+  if (used_ > 0) std::fwrite(buffer_, 1, used_, stream_);
+  used_ = 0;
+}
+
+}  // namespace lumeric

@@ -1,0 +1,3 @@
+set(LUMERIC_WRITER_SOURCES
+  src/writer/SceneWriter.cpp
+)

@@ -1,0 +1,4 @@
+set(LUMERIC_CORE_TESTS
+  core/NumberTextTest.cpp
+  core/QvContextTest.cpp
+)

@@ -1,3 +1,0 @@
-set(LUMERIC_DRIVER_TESTS
-  driver/QvContextTest.cpp
-)

@@ -1,0 +1,3 @@
+set(LUMERIC_SCENE_GRAPH_TESTS
+  scene/NodeVisitTest.cpp
+)

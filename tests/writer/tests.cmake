@@ -1,0 +1,3 @@
+set(LUMERIC_WRITER_TESTS
+  writer/SceneWriterTest.cpp
+)
