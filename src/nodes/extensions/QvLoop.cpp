@@ -16,21 +16,29 @@ bool named(QvAtom atom, const char* text) { return std::strcmp(atom.text(), text
 
 }  // namespace
 
-bool QvLoop::readBounds(Bounds& bounds) {
-  // The fields are evaluated in declaration order, the first of each name
-  // counting, so that their messages come in the order of the file.
-  QvField* fields[3] = {nullptr, nullptr, nullptr};
-  NumberValue values[3];
+void QvLoop::evaluateBoundFields(NumberValue (&values)[3], QvField*& position) {
+  // Evaluated in declaration order, the first field of each name counting,
+  // so that the fields' own messages come in the order of the file.
   static const char* const kNames[3] = {"start", "end", "step"};
+  bool seen[3] = {false, false, false};
   for (int i = 0; i < declaredFields.getNumFields(); ++i) {
     QvAtom name = declaredFields.getFieldName(i);
-    if (named(name, "position") && bounds.position == nullptr) bounds.position = declaredFields.getField(this, i);
+    if (named(name, "position") && position == nullptr) position = declaredFields.getField(this, i);
     for (int k = 0; k < 3; ++k) {
-      if (!named(name, kNames[k]) || fields[k] != nullptr) continue;
-      fields[k] = declaredFields.getField(this, i);
-      values[k] = numberOf(fields[k]);
+      if (!named(name, kNames[k]) || seen[k]) continue;
+      seen[k] = true;
+      values[k] = numberOf(declaredFields.getField(this, i));
     }
   }
+}
+
+bool QvLoop::readBounds(Bounds& bounds) {
+  NumberValue values[3];
+  evaluateBoundFields(values, bounds.position);
+  // start, end and step are each one number.  A field whose value is
+  // anything else (declared SFVec3f, SFString, a list) is not a legal
+  // value: start and end post their message, step a message of its own,
+  // and nothing is repeated.
   bool startOk = values[0].state == NumberState::kNumber;
   bool endOk = values[1].state == NumberState::kNumber;
   if (!startOk) theContext.reportAtNode(this, "\"start\" field not defined or was not given a legal value");
@@ -39,14 +47,12 @@ bool QvLoop::readBounds(Bounds& bounds) {
     theContext.reportAtNode(this, "\"position\" field not defined or was not given a legal value");
   }
   if (!startOk || !endOk || bounds.position == nullptr) return false;
-  bounds.start = values[0].value;
-  bounds.end = values[1].value;
-  // A step that is declared but holds something other than one number is
-  // refused like a start or end of that kind, rather than taken as 1.
   if (values[2].state == NumberState::kNotNumber) {
     theContext.reportAtNode(this, "\"step\" field was not given a legal value");
     return false;
   }
+  bounds.start = values[0].value;
+  bounds.end = values[1].value;
   if (values[2].state == NumberState::kNumber) bounds.step = values[2].value;
   // A step of 0 or less would never reach the end: refuse it instead of
   // repeating forever.

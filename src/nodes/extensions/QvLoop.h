@@ -38,6 +38,9 @@ class QvLoop : public QvDeclaredFieldsNode {
   // Reads start, end, step and position; posts what is missing or wrong
   // and returns false then.
   bool readBounds(Bounds& bounds);
+  // The values of start, end and step (in that order) and the position
+  // field, as declared.
+  void evaluateBoundFields(NumberValue (&values)[3], QvField*& position);
   // Where the repetitions go in `target`: right after the LOOP's own place
   // there, or at the end when the LOOP stands elsewhere.
   int insertionIndex(QvGroupNode* target);
