@@ -41,9 +41,7 @@ class MFVectorField : public ExpressionListField {
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   void write(SceneWriter& out) override;
-  QvField* clone() override;
   bool readElement(QvSceneInput* in, int index) override { return readTexts(in, index, true); }
-  void copyValueFrom(QvField* source) override;
 
   // Stores the expanded value of `source` row by row.
   void copyFrom(Derived& source);
@@ -205,18 +203,6 @@ void MFVectorField<Derived, Traits>::writeRows(SceneWriter& out, int count, RowS
       }
     }
   });
-}
-
-template <class Derived, class Traits>
-QvField* MFVectorField<Derived, Traits>::clone() {
-  Derived* copy = new Derived;
-  copy->copyFrom(static_cast<Derived&>(*this));
-  return copy;
-}
-
-template <class Derived, class Traits>
-void MFVectorField<Derived, Traits>::copyValueFrom(QvField* source) {
-  if (Derived* same = dynamic_cast<Derived*>(source)) copyFrom(*same);
 }
 
 template <class Derived, class Traits>

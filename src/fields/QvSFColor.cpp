@@ -53,16 +53,6 @@ void QvSFColor::write(SceneWriter& out) {
   out.character('\n');
 }
 
-QvField* QvSFColor::clone() {
-  QvSFColor* copy = new QvSFColor;
-  copy->copyFrom(*this);
-  return copy;
-}
-
-void QvSFColor::copyValueFrom(QvField* source) {
-  if (QvSFColor* same = dynamic_cast<QvSFColor*>(source)) copyFrom(*same);
-}
-
 void QvSFColor::copyFrom(QvSFColor& source) {
   isExpression = 0;
   if (source.isExpression) {

@@ -76,16 +76,6 @@ void QvSFMatrix::write(SceneWriter& out) {
   }
 }
 
-QvField* QvSFMatrix::clone() {
-  QvSFMatrix* copy = new QvSFMatrix;
-  copy->copyFrom(*this);
-  return copy;
-}
-
-void QvSFMatrix::copyValueFrom(QvField* source) {
-  if (QvSFMatrix* same = dynamic_cast<QvSFMatrix*>(source)) copyFrom(*same);
-}
-
 void QvSFMatrix::copyFrom(QvSFMatrix& source) {
   isExpression = 0;
   if (source.isExpression) {

@@ -63,16 +63,6 @@ void QvSFRotation::write(SceneWriter& out) {
   out.character(' ').number(numbers[3]).character('\n');
 }
 
-QvField* QvSFRotation::clone() {
-  QvSFRotation* copy = new QvSFRotation;
-  copy->copyFrom(*this);
-  return copy;
-}
-
-void QvSFRotation::copyValueFrom(QvField* source) {
-  if (QvSFRotation* same = dynamic_cast<QvSFRotation*>(source)) copyFrom(*same);
-}
-
 void QvSFRotation::copyFrom(QvSFRotation& source) {
   isExpression = 0;
   if (source.isExpression) {

@@ -26,11 +26,9 @@ class SFNumberField : public QvSingleField {
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   void write(SceneWriter& out) override;
-  QvField* clone() override;
   void attachNode(QvNode* node) override { value.attachOwner(node); }
   // One value text; a leading "=" is left to the parser.
   bool readValue(QvSceneInput* in) override { return in->readValueText(value, container); }
-  void copyValueFrom(QvField* source) override;
 
   // Stores the evaluated number of `source`.
   void copyFrom(Derived& source) { value.setNumber(numberOf(source.value)); }
@@ -59,18 +57,6 @@ template <class Derived, class Traits>
 void SFNumberField<Derived, Traits>::write(SceneWriter& out) {
   out.character(' ');
   Traits::writeValue(out, numberOf(value));
-}
-
-template <class Derived, class Traits>
-QvField* SFNumberField<Derived, Traits>::clone() {
-  Derived* copy = new Derived;
-  copy->copyFrom(static_cast<Derived&>(*this));
-  return copy;
-}
-
-template <class Derived, class Traits>
-void SFNumberField<Derived, Traits>::copyValueFrom(QvField* source) {
-  if (Derived* same = dynamic_cast<Derived*>(source)) copyFrom(*same);
 }
 
 }  // namespace lumeric
