@@ -58,7 +58,7 @@ void MFNumberField<Derived, Traits>::storeFrom(int first, const double* numbers,
 
 template <class Derived, class Traits>
 void MFNumberField<Derived, Traits>::appendValue(Term* term, FieldExpression* at) {
-  if (isExpression) return reportAt(at, "This field is defined by a field expression - cannot append to its value");
+  if (isExpression) return reportAt(at, kDefinedCannotAppend);
   ScalarTerm* number = asScalar(term);
   VectorTerm* vector = asVector(term);
   if (number != nullptr) {
@@ -74,7 +74,7 @@ void MFNumberField<Derived, Traits>::appendValue(Term* term, FieldExpression* at
 
 template <class Derived, class Traits>
 void MFNumberField<Derived, Traits>::SetLumericValue(Term* term, int i, int j, FieldExpression* at) {
-  if (isExpression) return reportAt(at, "This field is defined by a field expression - cannot set its value");
+  if (isExpression) return reportAt(at, kDefinedCannotSet);
   if (j != -1) return reportAt(at, Traits::kCannotSetEntry);
   if (i == -1) {
     VectorTerm* vector = asVector(term);

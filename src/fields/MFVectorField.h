@@ -71,7 +71,7 @@ void MFVectorField<Derived, Traits>::storeRows(int first, const double* numbers,
 template <class Derived, class Traits>
 void MFVectorField<Derived, Traits>::appendValue(Term* term, FieldExpression* at) {
   if (isExpression) {
-    return reportAt(firstExpression(at), "This field is defined by a field expression - cannot append to its value");
+    return reportAt(firstExpression(at), kDefinedCannotAppend);
   }
   MatrixTerm* matrix = asMatrix(term);
   VectorTerm* vector = asVectorOf(term, kWidth);
@@ -88,7 +88,7 @@ void MFVectorField<Derived, Traits>::appendValue(Term* term, FieldExpression* at
 
 template <class Derived, class Traits>
 void MFVectorField<Derived, Traits>::SetLumericValue(Term* term, int i, int j, FieldExpression* at) {
-  if (isExpression) return reportAt(at, "This field is defined by a field expression - cannot set its value");
+  if (isExpression) return reportAt(at, kDefinedCannotSet);
   if (i == -1 && j == -1) {
     MatrixTerm* matrix = asMatrix(term);
     VectorTerm* vector = asVectorOf(term, kWidth);

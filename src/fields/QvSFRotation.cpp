@@ -9,6 +9,7 @@ namespace lumeric {
 template class WholeExpressionField<4>;
 
 void QvSFRotation::SetLumericValue(Term* term, int i, int j, FieldExpression* at) {
+  // Worded apart from kDefinedCannotSet.
   if (isExpression) return reportAt(at, "This field is defined by a expression - cannot set its value");
   VectorTerm* vector = asVectorOf(term, 4);
   ScalarTerm* number = asScalar(term);

@@ -50,7 +50,7 @@ class SFVectorField : public QvSingleField {
 
 template <class Derived, class Traits>
 void SFVectorField<Derived, Traits>::SetLumericValue(Term* term, int i, int j, FieldExpression* at) {
-  if (isExpression) return reportAt(at, "This field is defined by a field expression - cannot set its value");
+  if (isExpression) return reportAt(at, kDefinedCannotSet);
   if (i == -1 && j == -1) {
     VectorTerm* vector = asVectorOf(term, kSize);
     if (vector == nullptr) return reportAt(at, Traits::kCannotSet);
