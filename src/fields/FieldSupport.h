@@ -33,10 +33,6 @@ constexpr const char kDefinedCannotSet[] = "This field is defined by a field exp
 constexpr const char kDefinedCannotAppend[] =
     "This field is defined by a field expression - cannot append to its value";
 
-// `v` truncated toward zero.  Values beyond the int range saturate and NaN
-// gives 0, so that no input can make the conversion undefined.
-int truncateToInt(double v);
-
 // New terms holding copies of the numbers.
 VectorTerm* makeVector(const double* values, int count);
 MatrixTerm* makeMatrix(const double* values, int rows, int cols);

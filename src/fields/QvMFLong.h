@@ -3,6 +3,7 @@
 #ifndef LUMERIC_FIELDS_QVMFLONG_H
 #define LUMERIC_FIELDS_QVMFLONG_H
 
+#include "expr/TermConversions.h"
 #include "fields/CopyableField.h"
 #include "fields/MFNumberField.h"
 

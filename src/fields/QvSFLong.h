@@ -3,6 +3,7 @@
 #ifndef LUMERIC_FIELDS_QVSFLONG_H
 #define LUMERIC_FIELDS_QVSFLONG_H
 
+#include "expr/TermConversions.h"
 #include "fields/CopyableField.h"
 #include "fields/SFNumberField.h"
 
