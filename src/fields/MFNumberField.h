@@ -35,7 +35,6 @@ class MFNumberField : public ExpressionListField {
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   void write(SceneWriter& out) override;
-  bool readElement(QvSceneInput* in, int index) override { return readTexts(in, index, true); }
 
   // Stores the expanded value of `source`, one number per element.
   void copyFrom(Derived& source);

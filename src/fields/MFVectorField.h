@@ -41,7 +41,6 @@ class MFVectorField : public ExpressionListField {
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   void write(SceneWriter& out) override;
-  bool readElement(QvSceneInput* in, int index) override { return readTexts(in, index, true); }
 
   // Stores the expanded value of `source` row by row.
   void copyFrom(Derived& source);
