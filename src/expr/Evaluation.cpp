@@ -83,7 +83,7 @@ Term* evaluateTerm(FieldExpression* expression) { return evaluate(expression, 0)
 StringTerm* evaluateString(FieldExpression* expression) { return asString(evaluate(expression, 0)); }
 
 StringTerm* evaluateName(FieldExpression* expression) {
-  return asString(evaluate(expression, kNameExpressionStart));
+  return asString(evaluate(expression, kNameExpressionToken));
 }
 
 // The scalar is copied out, so every term made for it can go at once.

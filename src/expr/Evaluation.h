@@ -11,9 +11,6 @@ namespace lumeric {
 
 class FieldExpression;
 
-// The start token that makes the text a name expression.
-constexpr int kNameExpressionStart = 279;
-
 // Parses `expression` with the given serial; statement rules store their
 // value in *result.  0 on success, 1 on failure.  A null expression or one
 // without text returns 0 at once, leaving *result alone.

@@ -152,6 +152,8 @@ constexpr const char* kTokenNames[] = {
     "AND", "APPEND", "COMMENT", "DECLARE", "END", "EQ",     "FALSE", "IF",  "THEN", "ELSE", "GE",
     "GT",  "LE",     "LT",      "NAME",    "NE",  "NUMBER", "OR",    "STRING", "SET", "USE", "TRUE",
 };
+static_assert(sizeof kTokenNames / sizeof kTokenNames[0] == kTrueToken - kAndToken + 1,
+              "one name for each named token from AND to TRUE");
 
 }  // namespace
 

@@ -3,41 +3,44 @@
 #ifndef LUMERIC_EXPR_EXPRESSIONLEXER_H
 #define LUMERIC_EXPR_EXPRESSIONLEXER_H
 
+#include "ExpressionGrammar.h"  // generated from expr/ExpressionGrammar.y
 #include "expr/TokenValue.h"
 
 namespace lumeric {
 
 class FieldExpression;
 
-// Token codes.  Single characters are their own code; the named tokens
-// follow in the order of their names in messages.  COMMENT and END are never
-// scanned; NAMEEXPR is only ever a start token.
+// Token codes: the codes the grammar gives its tokens, taken from the
+// generated parser header so that lexer and parser cannot disagree.  Single
+// characters are their own code; the named tokens are numbered one after
+// the other in the order of their names in messages.  COMMENT and END are
+// never scanned; NAMEEXPR is only ever a start token.
 enum ExpressionToken : int {
-  kEndToken = 0,
-  kErrorToken = 256,
-  kAndToken = 257,
-  kAppendToken,
-  kCommentToken,
-  kDeclareToken,
-  kEndKeywordToken,
-  kEqToken,
-  kFalseToken,
-  kIfToken,
-  kThenToken,
-  kElseToken,
-  kGeToken,
-  kGtToken,
-  kLeToken,
-  kLtToken,
-  kNameToken,
-  kNeToken,
-  kNumberToken,
-  kOrToken,
-  kStringToken,
-  kSetToken,
-  kUseToken,
-  kTrueToken,
-  kNameExpressionToken,  // 279
+  kEndToken = TOK_YYEOF,
+  kErrorToken = TOK_LUMERIC_EXPR_error,
+  kAndToken = TOK_AND,
+  kAppendToken = TOK_APPEND,
+  kCommentToken = TOK_COMMENT,
+  kDeclareToken = TOK_DECLARE,
+  kEndKeywordToken = TOK_END,
+  kEqToken = TOK_EQ,
+  kFalseToken = TOK_FALSE,
+  kIfToken = TOK_IF,
+  kThenToken = TOK_THEN,
+  kElseToken = TOK_ELSE,
+  kGeToken = TOK_GE,
+  kGtToken = TOK_GT,
+  kLeToken = TOK_LE,
+  kLtToken = TOK_LT,
+  kNameToken = TOK_NAME,
+  kNeToken = TOK_NE,
+  kNumberToken = TOK_NUMBER,
+  kOrToken = TOK_OR,
+  kStringToken = TOK_STRING,
+  kSetToken = TOK_SET,
+  kUseToken = TOK_USE,
+  kTrueToken = TOK_TRUE,
+  kNameExpressionToken = TOK_NAMEEXPR,
 };
 
 class ExpressionLexer {

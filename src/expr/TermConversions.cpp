@@ -10,6 +10,13 @@ namespace lumeric {
 
 namespace {
 
+int truncateSaturating(double value, int nanResult) {
+  if (std::isnan(value)) return nanResult;
+  if (value <= static_cast<double>(INT_MIN)) return INT_MIN;
+  if (value >= static_cast<double>(INT_MAX)) return INT_MAX;
+  return static_cast<int>(value);
+}
+
 constexpr double kInfinitelyFar = 1.0e15;
 
 void extendRow(const double* in, double* out) {
@@ -74,11 +81,9 @@ MatrixTerm* transposeTerm(const MatrixTerm* m) {
   return result;
 }
 
-int truncateToIndex(double value) {
-  if (std::isnan(value) || value <= static_cast<double>(INT_MIN)) return INT_MIN;
-  if (value >= static_cast<double>(INT_MAX)) return INT_MAX;
-  return static_cast<int>(value);
-}
+int truncateToIndex(double value) { return truncateSaturating(value, INT_MIN); }
+
+int truncateToInt(double value) { return truncateSaturating(value, 0); }
 
 bool indexFromTerm(const Term* term, int* index) {
   if (term == nullptr || term->kind != kScalarTerm) return false;

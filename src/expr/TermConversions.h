@@ -1,5 +1,5 @@
 // Conversions of terms: between three- and four-dimensional coordinates,
-// transposition, and scalars used as indices.  The coordinate conversions
+// transposition, and scalars used as indices or written as integers.  The coordinate conversions
 // return a new term, or post their message at `at` and return null.
 #ifndef LUMERIC_EXPR_TERMCONVERSIONS_H
 #define LUMERIC_EXPR_TERMCONVERSIONS_H
@@ -21,10 +21,12 @@ MatrixTerm* convertTo3D(const MatrixTerm* m, FieldExpression* at);
 MatrixTerm* transposeTerm(const VectorTerm* v);
 MatrixTerm* transposeTerm(const MatrixTerm* m);
 
-// `value` truncated toward zero.  Values beyond the int range saturate and
-// NaN gives the smallest int, so any number the user writes becomes a
-// definite (if invalid) index or count.
+// `value` truncated toward zero.  Values beyond the int range saturate, so
+// that no input can make the conversion undefined; the two differ only in
+// NaN.  As an index or count NaN gives the smallest int, a definite (if
+// invalid) index; as a number written out (integer fields) it gives 0.
 int truncateToIndex(double value);
+int truncateToInt(double value);
 // The scalar `term` truncated into *index; false when it is not a scalar.
 bool indexFromTerm(const Term* term, int* index);
 

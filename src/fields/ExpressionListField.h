@@ -22,6 +22,9 @@ class ExpressionListField : public QvMultiField {
   void attachNode(QvNode* node) override;
   // A single value, or values between "[" and "]" separated by ",".
   bool readValue(QvSceneInput* in) override;
+  // Element `index` as readTexts reads it with lookForExpression: one
+  // expression ("=...") may stand for the whole element.
+  bool readElement(QvSceneInput* in, int index) override { return readTexts(in, index, true); }
 
   // The expressions of element `index` (0 <= index < num), width() of them.
   FieldExpression* element(int index) { return values.element(index); }

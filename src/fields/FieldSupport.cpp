@@ -1,7 +1,5 @@
 #include "fields/FieldSupport.h"
 
-#include <climits>
-#include <cmath>
 #include <cstring>
 #include <string>
 
@@ -41,13 +39,6 @@ void storeString(FieldExpression& expr, const char* text, bool quoted) {
 
 void clearTexts(FieldExpression* exprs, int count) {
   for (int k = 0; k < count; ++k) exprs[k].clearText();
-}
-
-int truncateToInt(double v) {
-  if (std::isnan(v)) return 0;
-  if (v <= static_cast<double>(INT_MIN)) return INT_MIN;
-  if (v >= static_cast<double>(INT_MAX)) return INT_MAX;
-  return static_cast<int>(v);
 }
 
 VectorTerm* makeVector(const double* values, int count) {

@@ -10,7 +10,6 @@
 #include "expr/Term.h"
 #include "scene/SceneMessages.h"
 #include "writer/SceneWriter.h"
-#include "scene/SceneMessages.h"
 
 namespace lumeric {
 
@@ -28,9 +27,11 @@ void storeString(FieldExpression& expr, const char* text, bool quoted);
 // Removes the text of `count` consecutive expressions.
 void clearTexts(FieldExpression* exprs, int count);
 
-// `v` truncated toward zero.  Values beyond the int range saturate and NaN
-// gives 0, so that no input can make the conversion undefined.
-int truncateToInt(double v);
+// The refusals of a field whose value is given by one expression ("=..."):
+// its value changes only with that expression.
+constexpr const char kDefinedCannotSet[] = "This field is defined by a field expression - cannot set its value";
+constexpr const char kDefinedCannotAppend[] =
+    "This field is defined by a field expression - cannot append to its value";
 
 // New terms holding copies of the numbers.
 VectorTerm* makeVector(const double* values, int count);

@@ -35,9 +35,6 @@ class MFNumberField : public ExpressionListField {
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   void write(SceneWriter& out) override;
-  QvField* clone() override;
-  bool readElement(QvSceneInput* in, int index) override { return readTexts(in, index, true); }
-  void copyValueFrom(QvField* source) override;
 
   // Stores the expanded value of `source`, one number per element.
   void copyFrom(Derived& source);
@@ -60,7 +57,7 @@ void MFNumberField<Derived, Traits>::storeFrom(int first, const double* numbers,
 
 template <class Derived, class Traits>
 void MFNumberField<Derived, Traits>::appendValue(Term* term, FieldExpression* at) {
-  if (isExpression) return reportAt(at, "This field is defined by a field expression - cannot append to its value");
+  if (isExpression) return reportAt(at, kDefinedCannotAppend);
   ScalarTerm* number = asScalar(term);
   VectorTerm* vector = asVector(term);
   if (number != nullptr) {
@@ -76,7 +73,7 @@ void MFNumberField<Derived, Traits>::appendValue(Term* term, FieldExpression* at
 
 template <class Derived, class Traits>
 void MFNumberField<Derived, Traits>::SetLumericValue(Term* term, int i, int j, FieldExpression* at) {
-  if (isExpression) return reportAt(at, "This field is defined by a field expression - cannot set its value");
+  if (isExpression) return reportAt(at, kDefinedCannotSet);
   if (j != -1) return reportAt(at, Traits::kCannotSetEntry);
   if (i == -1) {
     VectorTerm* vector = asVector(term);
@@ -153,18 +150,6 @@ template <class Derived, class Traits>
 template <class ItemSource>
 void MFNumberField<Derived, Traits>::writeItems(SceneWriter& out, int count, ItemSource item) {
   out.list(count, ListLayout{kItemsPerLine, true, false}, [&](int k) { Traits::writeItem(out, item(k)); });
-}
-
-template <class Derived, class Traits>
-QvField* MFNumberField<Derived, Traits>::clone() {
-  Derived* copy = new Derived;
-  copy->copyFrom(static_cast<Derived&>(*this));
-  return copy;
-}
-
-template <class Derived, class Traits>
-void MFNumberField<Derived, Traits>::copyValueFrom(QvField* source) {
-  if (Derived* same = dynamic_cast<Derived*>(source)) copyFrom(*same);
 }
 
 template <class Derived, class Traits>

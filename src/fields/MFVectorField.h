@@ -41,9 +41,6 @@ class MFVectorField : public ExpressionListField {
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   void write(SceneWriter& out) override;
-  QvField* clone() override;
-  bool readElement(QvSceneInput* in, int index) override { return readTexts(in, index, true); }
-  void copyValueFrom(QvField* source) override;
 
   // Stores the expanded value of `source` row by row.
   void copyFrom(Derived& source);
@@ -73,7 +70,7 @@ void MFVectorField<Derived, Traits>::storeRows(int first, const double* numbers,
 template <class Derived, class Traits>
 void MFVectorField<Derived, Traits>::appendValue(Term* term, FieldExpression* at) {
   if (isExpression) {
-    return reportAt(firstExpression(at), "This field is defined by a field expression - cannot append to its value");
+    return reportAt(firstExpression(at), kDefinedCannotAppend);
   }
   MatrixTerm* matrix = asMatrix(term);
   VectorTerm* vector = asVectorOf(term, kWidth);
@@ -90,7 +87,7 @@ void MFVectorField<Derived, Traits>::appendValue(Term* term, FieldExpression* at
 
 template <class Derived, class Traits>
 void MFVectorField<Derived, Traits>::SetLumericValue(Term* term, int i, int j, FieldExpression* at) {
-  if (isExpression) return reportAt(at, "This field is defined by a field expression - cannot set its value");
+  if (isExpression) return reportAt(at, kDefinedCannotSet);
   if (i == -1 && j == -1) {
     MatrixTerm* matrix = asMatrix(term);
     VectorTerm* vector = asVectorOf(term, kWidth);
@@ -205,18 +202,6 @@ void MFVectorField<Derived, Traits>::writeRows(SceneWriter& out, int count, RowS
       }
     }
   });
-}
-
-template <class Derived, class Traits>
-QvField* MFVectorField<Derived, Traits>::clone() {
-  Derived* copy = new Derived;
-  copy->copyFrom(static_cast<Derived&>(*this));
-  return copy;
-}
-
-template <class Derived, class Traits>
-void MFVectorField<Derived, Traits>::copyValueFrom(QvField* source) {
-  if (Derived* same = dynamic_cast<Derived*>(source)) copyFrom(*same);
 }
 
 template <class Derived, class Traits>

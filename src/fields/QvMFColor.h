@@ -4,6 +4,7 @@
 #ifndef LUMERIC_FIELDS_QVMFCOLOR_H
 #define LUMERIC_FIELDS_QVMFCOLOR_H
 
+#include "fields/CopyableField.h"
 #include "fields/MFVectorField.h"
 
 namespace lumeric {
@@ -26,7 +27,7 @@ struct QvMFColorTraits {
 
 extern template class MFVectorField<QvMFColor, QvMFColorTraits>;
 
-class QvMFColor : public MFVectorField<QvMFColor, QvMFColorTraits> {
+class QvMFColor : public CopyableField<QvMFColor, MFVectorField<QvMFColor, QvMFColorTraits>> {
  public:
   // A list of one element.
   void setDefault(double r, double g, double b) { setDefaultRow({r, g, b}); }

@@ -2,6 +2,7 @@
 #ifndef LUMERIC_FIELDS_QVMFFLOAT_H
 #define LUMERIC_FIELDS_QVMFFLOAT_H
 
+#include "fields/CopyableField.h"
 #include "fields/MFNumberField.h"
 
 namespace lumeric {
@@ -19,7 +20,7 @@ struct QvMFFloatTraits {
 
 extern template class MFNumberField<QvMFFloat, QvMFFloatTraits>;
 
-class QvMFFloat : public MFNumberField<QvMFFloat, QvMFFloatTraits> {
+class QvMFFloat : public CopyableField<QvMFFloat, MFNumberField<QvMFFloat, QvMFFloatTraits>> {
  public:
   // A list of one element.
   void setDefault(double v) {

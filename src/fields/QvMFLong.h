@@ -3,6 +3,8 @@
 #ifndef LUMERIC_FIELDS_QVMFLONG_H
 #define LUMERIC_FIELDS_QVMFLONG_H
 
+#include "expr/TermConversions.h"
+#include "fields/CopyableField.h"
 #include "fields/MFNumberField.h"
 
 namespace lumeric {
@@ -20,7 +22,7 @@ struct QvMFLongTraits {
 
 extern template class MFNumberField<QvMFLong, QvMFLongTraits>;
 
-class QvMFLong : public MFNumberField<QvMFLong, QvMFLongTraits> {
+class QvMFLong : public CopyableField<QvMFLong, MFNumberField<QvMFLong, QvMFLongTraits>> {
  public:
   // A list of one element.
   void setDefault(int v) {

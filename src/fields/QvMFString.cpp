@@ -43,16 +43,6 @@ void QvMFString::write(SceneWriter& out) {
   });
 }
 
-QvField* QvMFString::clone() {
-  QvMFString* copy = new QvMFString;
-  copy->copyFrom(*this);
-  return copy;
-}
-
-void QvMFString::copyValueFrom(QvField* source) {
-  if (QvMFString* same = dynamic_cast<QvMFString*>(source)) copyFrom(*same);
-}
-
 void QvMFString::copyFrom(QvMFString& source) {
   isExpression = 0;
   setNum(source.num);

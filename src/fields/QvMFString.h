@@ -3,13 +3,14 @@
 #ifndef LUMERIC_FIELDS_QVMFSTRING_H
 #define LUMERIC_FIELDS_QVMFSTRING_H
 
+#include "fields/CopyableField.h"
 #include "fields/ExpressionListField.h"
 
 namespace lumeric {
 
-class QvMFString : public ExpressionListField {
+class QvMFString : public CopyableField<QvMFString, ExpressionListField> {
  public:
-  QvMFString() : ExpressionListField(1) {}
+  QvMFString() : CopyableField(1) {}
 
   const char* getTypeName() const override { return "MFString"; }
   // Adds one element holding a string term's characters in quotation marks.
@@ -19,10 +20,8 @@ class QvMFString : public ExpressionListField {
   // Element i's string, or null; the whole list cannot be asked for.
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   void write(SceneWriter& out) override;
-  QvField* clone() override;
   // One value text; "=" has no meaning here.
   bool readElement(QvSceneInput* in, int index) override { return readTexts(in, index, false); }
-  void copyValueFrom(QvField* source) override;
 
   // As many elements as `source`; each holds its evaluated string, or no
   // text when it gives none.

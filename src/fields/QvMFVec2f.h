@@ -3,6 +3,7 @@
 #ifndef LUMERIC_FIELDS_QVMFVEC2F_H
 #define LUMERIC_FIELDS_QVMFVEC2F_H
 
+#include "fields/CopyableField.h"
 #include "fields/MFVectorField.h"
 
 namespace lumeric {
@@ -24,7 +25,7 @@ struct QvMFVec2fTraits {
 
 extern template class MFVectorField<QvMFVec2f, QvMFVec2fTraits>;
 
-class QvMFVec2f : public MFVectorField<QvMFVec2f, QvMFVec2fTraits> {
+class QvMFVec2f : public CopyableField<QvMFVec2f, MFVectorField<QvMFVec2f, QvMFVec2fTraits>> {
  public:
   // A list of one element.
   void setDefault(double x, double y) { setDefaultRow({x, y}); }

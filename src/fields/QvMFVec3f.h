@@ -4,6 +4,7 @@
 #ifndef LUMERIC_FIELDS_QVMFVEC3F_H
 #define LUMERIC_FIELDS_QVMFVEC3F_H
 
+#include "fields/CopyableField.h"
 #include "fields/MFVectorField.h"
 
 namespace lumeric {
@@ -25,7 +26,7 @@ struct QvMFVec3fTraits {
 
 extern template class MFVectorField<QvMFVec3f, QvMFVec3fTraits>;
 
-class QvMFVec3f : public MFVectorField<QvMFVec3f, QvMFVec3fTraits> {
+class QvMFVec3f : public CopyableField<QvMFVec3f, MFVectorField<QvMFVec3f, QvMFVec3fTraits>> {
  public:
   // A list of one element.
   void setDefault(double x, double y, double z) { setDefaultRow({x, y, z}); }

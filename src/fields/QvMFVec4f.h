@@ -4,6 +4,7 @@
 #ifndef LUMERIC_FIELDS_QVMFVEC4F_H
 #define LUMERIC_FIELDS_QVMFVEC4F_H
 
+#include "fields/CopyableField.h"
 #include "fields/MFVectorField.h"
 
 namespace lumeric {
@@ -25,7 +26,7 @@ struct QvMFVec4fTraits {
 
 extern template class MFVectorField<QvMFVec4f, QvMFVec4fTraits>;
 
-class QvMFVec4f : public MFVectorField<QvMFVec4f, QvMFVec4fTraits> {
+class QvMFVec4f : public CopyableField<QvMFVec4f, MFVectorField<QvMFVec4f, QvMFVec4fTraits>> {
  public:
   // A list of one element.
   void setDefault(double x, double y, double z, double w) { setDefaultRow({x, y, z, w}); }

@@ -38,12 +38,6 @@ void QvSFBitMask::write(SceneWriter& out) {
   out.text(" )\n");
 }
 
-QvField* QvSFBitMask::clone() {
-  QvSFBitMask* copy = new QvSFBitMask;
-  copy->copyFrom(*this);
-  return copy;
-}
-
 bool QvSFBitMask::lookUpFlag(QvSceneInput* in, QvAtom name, int& flag) {
   int entry = findName(name);
   if (entry < 0) return readError(in, "Unknown QvSFBitMask bit mask value \"%s\"", name.text());

@@ -3,11 +3,12 @@
 #ifndef LUMERIC_FIELDS_QVSFBITMASK_H
 #define LUMERIC_FIELDS_QVSFBITMASK_H
 
+#include "fields/CopyableField.h"
 #include "fields/QvSFEnum.h"
 
 namespace lumeric {
 
-class QvSFBitMask : public QvSFEnum {
+class QvSFBitMask : public CopyableField<QvSFBitMask, QvSFEnum> {
  public:
   const char* getTypeName() const override { return "SFBitMask"; }
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
@@ -15,7 +16,6 @@ class QvSFBitMask : public QvSFEnum {
   // One name when an entry holds exactly `value`; otherwise " ( ", the
   // entries sharing a bit with `value` joined by " | ", " )\n".
   void write(SceneWriter& out) override;
-  QvField* clone() override;
   bool readValue(QvSceneInput* in) override;
 
  private:

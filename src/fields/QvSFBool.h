@@ -3,6 +3,7 @@
 #ifndef LUMERIC_FIELDS_QVSFBOOL_H
 #define LUMERIC_FIELDS_QVSFBOOL_H
 
+#include "fields/CopyableField.h"
 #include "fields/SFNumberField.h"
 
 namespace lumeric {
@@ -19,7 +20,7 @@ struct QvSFBoolTraits {
 
 extern template class SFNumberField<QvSFBool, QvSFBoolTraits>;
 
-class QvSFBool : public SFNumberField<QvSFBool, QvSFBoolTraits> {
+class QvSFBool : public CopyableField<QvSFBool, SFNumberField<QvSFBool, QvSFBoolTraits>> {
  public:
   void setDefault(bool v) { value.setInteger(v ? 1 : 0); }
 };

@@ -2,6 +2,7 @@
 
 #include "core/QvContext.h"
 #include "expr/Evaluation.h"
+#include "fields/FieldSupport.h"
 #include "scene/SceneMessages.h"
 
 namespace lumeric {
@@ -9,7 +10,7 @@ namespace lumeric {
 template class WholeExpressionField<3>;
 
 void QvSFColor::SetLumericValue(Term* term, int i, int j, FieldExpression* at) {
-  if (isExpression) return reportAt(at, "This field is defined by a field expression - cannot set its value");
+  if (isExpression) return reportAt(at, kDefinedCannotSet);
   if (i == -1 && j == -1) {
     VectorTerm* vector = asVectorOf(term, 3);
     if (vector == nullptr) return reportAt(at, "Cannot set QvSFColor using this value");
@@ -51,16 +52,6 @@ void QvSFColor::write(SceneWriter& out) {
   }
   for (int k = 0; k < 3; ++k) out.character(' ').number(numbers[k]);
   out.character('\n');
-}
-
-QvField* QvSFColor::clone() {
-  QvSFColor* copy = new QvSFColor;
-  copy->copyFrom(*this);
-  return copy;
-}
-
-void QvSFColor::copyValueFrom(QvField* source) {
-  if (QvSFColor* same = dynamic_cast<QvSFColor*>(source)) copyFrom(*same);
 }
 
 void QvSFColor::copyFrom(QvSFColor& source) {

@@ -3,20 +3,19 @@
 #ifndef LUMERIC_FIELDS_QVSFCOLOR_H
 #define LUMERIC_FIELDS_QVSFCOLOR_H
 
+#include "fields/CopyableField.h"
 #include "fields/WholeExpressionField.h"
 
 namespace lumeric {
 
 extern template class WholeExpressionField<3>;
 
-class QvSFColor : public WholeExpressionField<3> {
+class QvSFColor : public CopyableField<QvSFColor, WholeExpressionField<3>> {
  public:
   const char* getTypeName() const override { return "SFColor"; }
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   void write(SceneWriter& out) override;
-  QvField* clone() override;
-  void copyValueFrom(QvField* source) override;
 
   // The colour of the whole-field expression (nothing when it gives none)
   // or the evaluated components.

@@ -31,12 +31,6 @@ void QvSFEnum::write(SceneWriter& out) {
   out.character('\n');
 }
 
-QvField* QvSFEnum::clone() {
-  QvSFEnum* copy = new QvSFEnum;
-  copy->copyFrom(*this);
-  return copy;
-}
-
 bool QvSFEnum::readValue(QvSceneInput* in) {
   QvAtom name;
   if (!in->readName(name, QvSceneInput::kUpperName)) return false;
@@ -44,10 +38,6 @@ bool QvSFEnum::readValue(QvSceneInput* in) {
   if (entry < 0) return readError(in, "Unknown QvSFEnum enumeration value \"%s\"", name.text());
   value = enumValues[entry];
   return true;
-}
-
-void QvSFEnum::copyValueFrom(QvField* source) {
-  if (QvSFEnum* same = dynamic_cast<QvSFEnum*>(source)) copyFrom(*same);
 }
 
 void QvSFEnum::copyFrom(QvSFEnum& source) {

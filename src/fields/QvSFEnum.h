@@ -7,11 +7,11 @@
 #include <cstdint>
 
 #include "core/QvAtom.h"
-#include "scene/QvField.h"
+#include "fields/CopyableField.h"
 
 namespace lumeric {
 
-class QvSFEnum : public QvSingleField {
+class QvSFEnum : public CopyableField<QvSFEnum, QvSingleField> {
  public:
   const char* getTypeName() const override { return "SFEnum"; }
   // Not available for enumerations: report at `at`; the get gives null.
@@ -19,10 +19,8 @@ class QvSFEnum : public QvSingleField {
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   // " %s\n" with the name of the first entry holding `value`.
   void write(SceneWriter& out) override;
-  QvField* clone() override;
   // One upper-case name, looked up among the entries.
   bool readValue(QvSceneInput* in) override;
-  void copyValueFrom(QvField* source) override;
 
   // Takes the value and shares the enumeration of `source`.
   void copyFrom(QvSFEnum& source);

@@ -2,6 +2,7 @@
 #ifndef LUMERIC_FIELDS_QVSFFLOAT_H
 #define LUMERIC_FIELDS_QVSFFLOAT_H
 
+#include "fields/CopyableField.h"
 #include "fields/SFNumberField.h"
 
 namespace lumeric {
@@ -19,7 +20,7 @@ struct QvSFFloatTraits {
 
 extern template class SFNumberField<QvSFFloat, QvSFFloatTraits>;
 
-class QvSFFloat : public SFNumberField<QvSFFloat, QvSFFloatTraits> {
+class QvSFFloat : public CopyableField<QvSFFloat, SFNumberField<QvSFFloat, QvSFFloatTraits>> {
  public:
   void setDefault(double v) { value.setNumber(v); }
 };

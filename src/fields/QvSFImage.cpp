@@ -78,16 +78,6 @@ void QvSFImage::write(SceneWriter& out) {
   }
 }
 
-QvField* QvSFImage::clone() {
-  QvSFImage* copy = new QvSFImage;
-  copy->copyFrom(*this);
-  return copy;
-}
-
-void QvSFImage::copyValueFrom(QvField* source) {
-  if (QvSFImage* same = dynamic_cast<QvSFImage*>(source)) copyFrom(*same);
-}
-
 void QvSFImage::copyFrom(QvSFImage& source) {
   width = source.width;
   height = source.height;

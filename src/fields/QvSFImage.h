@@ -7,11 +7,11 @@
 #include <cstdint>
 #include <vector>
 
-#include "scene/QvField.h"
+#include "fields/CopyableField.h"
 
 namespace lumeric {
 
-class QvSFImage : public QvSingleField {
+class QvSFImage : public CopyableField<QvSFImage, QvSingleField> {
  public:
   // Pixels written on one line.
   static constexpr int kPixelsPerLine = 8;
@@ -24,9 +24,7 @@ class QvSFImage : public QvSingleField {
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   void write(SceneWriter& out) override;
-  QvField* clone() override;
   bool readValue(QvSceneInput* in) override;
-  void copyValueFrom(QvField* source) override;
 
   void copyFrom(QvSFImage& source);
 

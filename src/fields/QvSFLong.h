@@ -3,6 +3,8 @@
 #ifndef LUMERIC_FIELDS_QVSFLONG_H
 #define LUMERIC_FIELDS_QVSFLONG_H
 
+#include "expr/TermConversions.h"
+#include "fields/CopyableField.h"
 #include "fields/SFNumberField.h"
 
 namespace lumeric {
@@ -19,7 +21,7 @@ struct QvSFLongTraits {
 
 extern template class SFNumberField<QvSFLong, QvSFLongTraits>;
 
-class QvSFLong : public SFNumberField<QvSFLong, QvSFLongTraits> {
+class QvSFLong : public CopyableField<QvSFLong, SFNumberField<QvSFLong, QvSFLongTraits>> {
  public:
   void setDefault(int v) { value.setInteger(v); }
 };

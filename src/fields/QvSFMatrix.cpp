@@ -2,6 +2,7 @@
 
 #include "core/QvContext.h"
 #include "expr/Evaluation.h"
+#include "fields/FieldSupport.h"
 #include "scene/SceneMessages.h"
 
 namespace lumeric {
@@ -22,7 +23,7 @@ MatrixTerm* asFourByFour(Term* term) {
 MatrixTerm* QvSFMatrix::evaluateWhole() { return asFourByFour(evaluateTerm(&wholeExpression)); }
 
 void QvSFMatrix::SetLumericValue(Term* term, int i, int j, FieldExpression* at) {
-  if (isExpression) return reportAt(at, "This field is defined by a field expression - cannot set its value");
+  if (isExpression) return reportAt(at, kDefinedCannotSet);
   MatrixTerm* matrix = asFourByFour(term);
   ScalarTerm* number = asScalar(term);
   if (i == -1 && j == -1 && matrix != nullptr) {
@@ -74,16 +75,6 @@ void QvSFMatrix::write(SceneWriter& out) {
     out.character(' ');
     for (int col = 0; col < 4; ++col) out.number(numbers[4 * row + col]).character(col < 3 ? ' ' : '\n');
   }
-}
-
-QvField* QvSFMatrix::clone() {
-  QvSFMatrix* copy = new QvSFMatrix;
-  copy->copyFrom(*this);
-  return copy;
-}
-
-void QvSFMatrix::copyValueFrom(QvField* source) {
-  if (QvSFMatrix* same = dynamic_cast<QvSFMatrix*>(source)) copyFrom(*same);
 }
 
 void QvSFMatrix::copyFrom(QvSFMatrix& source) {

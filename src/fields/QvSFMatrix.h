@@ -4,21 +4,20 @@
 #ifndef LUMERIC_FIELDS_QVSFMATRIX_H
 #define LUMERIC_FIELDS_QVSFMATRIX_H
 
+#include "fields/CopyableField.h"
 #include "fields/WholeExpressionField.h"
 
 namespace lumeric {
 
 extern template class WholeExpressionField<16>;
 
-class QvSFMatrix : public WholeExpressionField<16> {
+class QvSFMatrix : public CopyableField<QvSFMatrix, WholeExpressionField<16>> {
  public:
   const char* getTypeName() const override { return "SFMatrix"; }
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   void write(SceneWriter& out) override;
-  QvField* clone() override;
   void attachNode(QvNode*) override {}
-  void copyValueFrom(QvField* source) override;
 
   // The 4 by 4 matrix of the whole-field expression (nothing when it gives
   // none) or the sixteen evaluated entries.

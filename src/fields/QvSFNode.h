@@ -3,6 +3,7 @@
 #ifndef LUMERIC_FIELDS_QVSFNODE_H
 #define LUMERIC_FIELDS_QVSFNODE_H
 
+#include "fields/CopyableField.h"
 #include "fields/SFStringField.h"
 
 namespace lumeric {
@@ -20,7 +21,7 @@ struct QvSFNodeTraits {
 
 extern template class SFStringField<QvSFNode, QvSFNodeTraits>;
 
-class QvSFNode : public SFStringField<QvSFNode, QvSFNodeTraits> {};
+class QvSFNode : public CopyableField<QvSFNode, SFStringField<QvSFNode, QvSFNodeTraits>> {};
 
 }  // namespace lumeric
 

@@ -9,6 +9,7 @@ namespace lumeric {
 template class WholeExpressionField<4>;
 
 void QvSFRotation::SetLumericValue(Term* term, int i, int j, FieldExpression* at) {
+  // Worded apart from kDefinedCannotSet.
   if (isExpression) return reportAt(at, "This field is defined by a expression - cannot set its value");
   VectorTerm* vector = asVectorOf(term, 4);
   ScalarTerm* number = asScalar(term);
@@ -61,16 +62,6 @@ void QvSFRotation::write(SceneWriter& out) {
   componentNumbers(numbers);
   for (int k = 0; k < 3; ++k) out.character(' ').rounded(numbers[k]);
   out.character(' ').number(numbers[3]).character('\n');
-}
-
-QvField* QvSFRotation::clone() {
-  QvSFRotation* copy = new QvSFRotation;
-  copy->copyFrom(*this);
-  return copy;
-}
-
-void QvSFRotation::copyValueFrom(QvField* source) {
-  if (QvSFRotation* same = dynamic_cast<QvSFRotation*>(source)) copyFrom(*same);
 }
 
 void QvSFRotation::copyFrom(QvSFRotation& source) {

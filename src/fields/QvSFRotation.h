@@ -4,20 +4,19 @@
 #ifndef LUMERIC_FIELDS_QVSFROTATION_H
 #define LUMERIC_FIELDS_QVSFROTATION_H
 
+#include "fields/CopyableField.h"
 #include "fields/WholeExpressionField.h"
 
 namespace lumeric {
 
 extern template class WholeExpressionField<4>;
 
-class QvSFRotation : public WholeExpressionField<4> {
+class QvSFRotation : public CopyableField<QvSFRotation, WholeExpressionField<4>> {
  public:
   const char* getTypeName() const override { return "SFRotation"; }
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   void write(SceneWriter& out) override;
-  QvField* clone() override;
-  void copyValueFrom(QvField* source) override;
 
   // The four numbers of the whole-field expression or of the components;
   // a whole-field expression that is no vector of four is reported at the

@@ -2,6 +2,7 @@
 #ifndef LUMERIC_FIELDS_QVSFSTRING_H
 #define LUMERIC_FIELDS_QVSFSTRING_H
 
+#include "fields/CopyableField.h"
 #include "fields/SFStringField.h"
 
 namespace lumeric {
@@ -19,7 +20,7 @@ struct QvSFStringTraits {
 
 extern template class SFStringField<QvSFString, QvSFStringTraits>;
 
-class QvSFString : public SFStringField<QvSFString, QvSFStringTraits> {
+class QvSFString : public CopyableField<QvSFString, SFStringField<QvSFString, QvSFStringTraits>> {
  public:
   // Stores `text` in quotation marks.
   void setDefault(const char* text) { storeString(value, text, true); }

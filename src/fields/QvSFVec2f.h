@@ -3,6 +3,7 @@
 #ifndef LUMERIC_FIELDS_QVSFVEC2F_H
 #define LUMERIC_FIELDS_QVSFVEC2F_H
 
+#include "fields/CopyableField.h"
 #include "fields/SFVectorField.h"
 
 namespace lumeric {
@@ -21,7 +22,7 @@ struct QvSFVec2fTraits {
 
 extern template class SFVectorField<QvSFVec2f, QvSFVec2fTraits>;
 
-class QvSFVec2f : public SFVectorField<QvSFVec2f, QvSFVec2fTraits> {
+class QvSFVec2f : public CopyableField<QvSFVec2f, SFVectorField<QvSFVec2f, QvSFVec2fTraits>> {
  public:
   void setDefault(double x, double y) { setDefaultNumbers({x, y}); }
 };

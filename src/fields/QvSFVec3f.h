@@ -3,6 +3,7 @@
 #ifndef LUMERIC_FIELDS_QVSFVEC3F_H
 #define LUMERIC_FIELDS_QVSFVEC3F_H
 
+#include "fields/CopyableField.h"
 #include "fields/SFVectorField.h"
 
 namespace lumeric {
@@ -21,7 +22,7 @@ struct QvSFVec3fTraits {
 
 extern template class SFVectorField<QvSFVec3f, QvSFVec3fTraits>;
 
-class QvSFVec3f : public SFVectorField<QvSFVec3f, QvSFVec3fTraits> {
+class QvSFVec3f : public CopyableField<QvSFVec3f, SFVectorField<QvSFVec3f, QvSFVec3fTraits>> {
  public:
   void setDefault(double x, double y, double z) { setDefaultNumbers({x, y, z}); }
 };

@@ -3,6 +3,7 @@
 #ifndef LUMERIC_FIELDS_QVSFVEC4F_H
 #define LUMERIC_FIELDS_QVSFVEC4F_H
 
+#include "fields/CopyableField.h"
 #include "fields/SFVectorField.h"
 
 namespace lumeric {
@@ -22,7 +23,7 @@ struct QvSFVec4fTraits {
 
 extern template class SFVectorField<QvSFVec4f, QvSFVec4fTraits>;
 
-class QvSFVec4f : public SFVectorField<QvSFVec4f, QvSFVec4fTraits> {
+class QvSFVec4f : public CopyableField<QvSFVec4f, SFVectorField<QvSFVec4f, QvSFVec4fTraits>> {
  public:
   void setDefault(double x, double y, double z, double w) { setDefaultNumbers({x, y, z, w}); }
 };

@@ -9,33 +9,23 @@
 #ifndef LUMERIC_FIELDS_SFNUMBERFIELD_H
 #define LUMERIC_FIELDS_SFNUMBERFIELD_H
 
-#include "core/QvContext.h"
 #include "expr/Evaluation.h"
 #include "fields/FieldSupport.h"
-#include "scene/FieldExpression.h"
-#include "scene/QvField.h"
-#include "reader/QvSceneInput.h"
+#include "fields/SingleExpressionField.h"
 #include "scene/SceneMessages.h"
 
 namespace lumeric {
 
 template <class Derived, class Traits>
-class SFNumberField : public QvSingleField {
+class SFNumberField : public SingleExpressionField {
  public:
   const char* getTypeName() const override { return Traits::kTypeName; }
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   void write(SceneWriter& out) override;
-  QvField* clone() override;
-  void attachNode(QvNode* node) override { value.attachOwner(node); }
-  // One value text; a leading "=" is left to the parser.
-  bool readValue(QvSceneInput* in) override { return in->readValueText(value, container); }
-  void copyValueFrom(QvField* source) override;
 
   // Stores the evaluated number of `source`.
   void copyFrom(Derived& source) { value.setNumber(numberOf(source.value)); }
-
-  FieldExpression value;
 };
 
 template <class Derived, class Traits>
@@ -59,18 +49,6 @@ template <class Derived, class Traits>
 void SFNumberField<Derived, Traits>::write(SceneWriter& out) {
   out.character(' ');
   Traits::writeValue(out, numberOf(value));
-}
-
-template <class Derived, class Traits>
-QvField* SFNumberField<Derived, Traits>::clone() {
-  Derived* copy = new Derived;
-  copy->copyFrom(static_cast<Derived&>(*this));
-  return copy;
-}
-
-template <class Derived, class Traits>
-void SFNumberField<Derived, Traits>::copyValueFrom(QvField* source) {
-  if (Derived* same = dynamic_cast<Derived*>(source)) copyFrom(*same);
 }
 
 }  // namespace lumeric

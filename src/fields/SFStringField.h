@@ -6,33 +6,23 @@
 #ifndef LUMERIC_FIELDS_SFSTRINGFIELD_H
 #define LUMERIC_FIELDS_SFSTRINGFIELD_H
 
-#include "core/QvContext.h"
 #include "expr/Evaluation.h"
 #include "fields/FieldSupport.h"
-#include "scene/FieldExpression.h"
-#include "scene/QvField.h"
-#include "reader/QvSceneInput.h"
+#include "fields/SingleExpressionField.h"
 #include "scene/SceneMessages.h"
 
 namespace lumeric {
 
 template <class Derived, class Traits>
-class SFStringField : public QvSingleField {
+class SFStringField : public SingleExpressionField {
  public:
   const char* getTypeName() const override { return Traits::kTypeName; }
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   void write(SceneWriter& out) override;
-  QvField* clone() override;
-  void attachNode(QvNode* node) override { value.attachOwner(node); }
-  // One value text, quotation marks included.
-  bool readValue(QvSceneInput* in) override { return in->readValueText(value, container); }
-  void copyValueFrom(QvField* source) override;
 
   // Stores the evaluated string of `source`; no text when it gives none.
   void copyFrom(Derived& source);
-
-  FieldExpression value;
 };
 
 template <class Derived, class Traits>
@@ -54,18 +44,6 @@ void SFStringField<Derived, Traits>::write(SceneWriter& out) {
   StringTerm* string = Traits::evaluate(&value);
   if (string == nullptr) return reportAt(&value, "Cannot evaluate string");
   out.text(" \"").text(string->text != nullptr ? string->text : "").text("\"\n");
-}
-
-template <class Derived, class Traits>
-QvField* SFStringField<Derived, Traits>::clone() {
-  Derived* copy = new Derived;
-  copy->copyFrom(static_cast<Derived&>(*this));
-  return copy;
-}
-
-template <class Derived, class Traits>
-void SFStringField<Derived, Traits>::copyValueFrom(QvField* source) {
-  if (Derived* same = dynamic_cast<Derived*>(source)) copyFrom(*same);
 }
 
 template <class Derived, class Traits>

@@ -30,10 +30,8 @@ class SFVectorField : public QvSingleField {
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   void write(SceneWriter& out) override;
-  QvField* clone() override;
   void attachNode(QvNode* node) override;
   bool readValue(QvSceneInput* in) override;
-  void copyValueFrom(QvField* source) override;
 
   // Stores the evaluated value of `source` as numbers; after a refused
   // whole-field expression the copy keeps no values.
@@ -52,7 +50,7 @@ class SFVectorField : public QvSingleField {
 
 template <class Derived, class Traits>
 void SFVectorField<Derived, Traits>::SetLumericValue(Term* term, int i, int j, FieldExpression* at) {
-  if (isExpression) return reportAt(at, "This field is defined by a field expression - cannot set its value");
+  if (isExpression) return reportAt(at, kDefinedCannotSet);
   if (i == -1 && j == -1) {
     VectorTerm* vector = asVectorOf(term, kSize);
     if (vector == nullptr) return reportAt(at, Traits::kCannotSet);
@@ -104,13 +102,6 @@ void SFVectorField<Derived, Traits>::write(SceneWriter& out) {
 }
 
 template <class Derived, class Traits>
-QvField* SFVectorField<Derived, Traits>::clone() {
-  Derived* copy = new Derived;
-  copy->copyFrom(static_cast<Derived&>(*this));
-  return copy;
-}
-
-template <class Derived, class Traits>
 void SFVectorField<Derived, Traits>::attachNode(QvNode* node) {
   for (FieldExpression& component : values) component.attachOwner(node);
 }
@@ -125,11 +116,6 @@ bool SFVectorField<Derived, Traits>::readValue(QvSceneInput* in) {
     if (!in->readValueText(component, container)) return false;
   }
   return true;
-}
-
-template <class Derived, class Traits>
-void SFVectorField<Derived, Traits>::copyValueFrom(QvField* source) {
-  if (Derived* same = dynamic_cast<Derived*>(source)) copyFrom(*same);
 }
 
 template <class Derived, class Traits>

@@ -13,4 +13,5 @@ set(LUMERIC_EXPR_TESTS
 
   expr/PlainNumberTest.cpp
   expr/TermArenaTest.cpp
+  expr/TruncationTest.cpp
 )

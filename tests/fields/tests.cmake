@@ -3,4 +3,5 @@ set(LUMERIC_FIELD_TESTS
   fields/FieldWriteTest.cpp
   fields/FieldExchangeTest.cpp
   fields/FieldCopyTest.cpp
+  fields/ExpressionStoreTest.cpp
 )
