@@ -23,7 +23,7 @@ install(FILES ${PROJECT_SOURCE_DIR}/include/lumeric/lumeric.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/lumeric)
 install(FILES ${PROJECT_SOURCE_DIR}/docs/lumeric.1
   DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
-install(FILES ${PROJECT_SOURCE_DIR}/README.md
+install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/docs/language.md
   DESTINATION ${LUMERIC_DOC_DIR})
 install(FILES
   ${PROJECT_SOURCE_DIR}/examples/expressions.vlm

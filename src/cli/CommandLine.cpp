@@ -26,6 +26,13 @@ const char kUsageText[] =
     "  -W unknown     warn about nodes of unknown class that declare their fields\n"
     "  -W duplicate   warn about DEF names that are defined twice\n"
     "  -d DIR         when INPUT cannot be opened, try DIR followed by INPUT\n"
+    "  -D NAME:FIELD=VALUE\n"
+    "                 after reading the scene, give FIELD of the node named NAME\n"
+    "                 (the last one DEF gave that name) the value text VALUE, as\n"
+    "                 if the file had it there; an expression is allowed.  May be\n"
+    "                 repeated; applied in order before the scene is evaluated\n"
+    "  --deps FILE    also write FILE, a make rule naming the output file, the\n"
+    "                 input and every file INCLUDE read (not with --check or -o -)\n"
     "  --message-format FORMAT\n"
     "                 how messages are printed: plain (the default), gnu or json\n"
     "  -h, --help     show this text\n"
@@ -51,11 +58,13 @@ const char kUsageText[] =
     "         severity error, warning or note; file and line null when unknown\n"
     "\n"
     "Exit status: 0 when no error was reported, 1 when at least one was, 2 for a\n"
-    "usage error.\n"
+    "usage error (a -D that names no node or field, a --deps FILE that cannot be\n"
+    "written).\n"
     "\n"
     "Examples:\n"
     "  lumeric -o scene.wrl examples/expressions.vlm\n"
     "  lumeric --check --message-format gnu examples/expressions.vlm\n"
+    "  lumeric -D Params:size=2.5 --deps scene.d -o scene.wrl scene.vlm\n"
     "The examples are installed in share/doc/lumeric/examples below the prefix.\n";
 
 std::string fileTypeOf(const std::string& input) {
@@ -81,6 +90,16 @@ bool takeValue(int argc, char** argv, int& i, std::string& value, std::string& e
 
 }  // namespace
 
+bool parseFieldOverride(const std::string& text, FieldOverride& change) {
+  size_t colon = text.find(':');
+  size_t equals = text.find('=', colon == std::string::npos ? 0 : colon);
+  if (colon == std::string::npos || equals == std::string::npos) return false;
+  change.node = text.substr(0, colon);
+  change.field = text.substr(colon + 1, equals - colon - 1);
+  change.value = text.substr(equals + 1);
+  return !change.node.empty() && !change.field.empty() && !change.value.empty();
+}
+
 bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& error) {
   bool typeSet = false;
   bool noMoreOptions = false;
@@ -105,6 +124,21 @@ bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& err
         typeSet = true;
       } else if (arg == "-d") {
         if (!takeValue(argc, argv, i, line.directory, error)) return false;
+      } else if (arg.compare(0, 2, "-D") == 0) {
+        std::string text = arg.substr(2);
+        if (arg == "-D" && !takeValue(argc, argv, i, text, error)) return false;
+        FieldOverride change;
+        if (!parseFieldOverride(text, change)) {
+          error = "malformed -D \"" + text + "\" (use -D NAME:FIELD=VALUE)";
+          return false;
+        }
+        line.overrides.push_back(change);
+      } else if (arg == "--deps") {
+        if (!takeValue(argc, argv, i, line.depsFile, error)) return false;
+        if (line.depsFile.empty()) {
+          error = "--deps FILE must not be empty";
+          return false;
+        }
       } else if (arg == "--message-format") {
         std::string name;
         if (!takeValue(argc, argv, i, name, error)) return false;
@@ -149,6 +183,14 @@ bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& err
   }
   if (line.outputSet && line.action == CommandLine::kCheck) {
     error = "-o cannot be combined with --check";
+    return false;
+  }
+  if (!line.depsFile.empty() && line.action == CommandLine::kCheck) {
+    error = "--deps cannot be combined with --check";
+    return false;
+  }
+  if (!line.depsFile.empty() && line.outputSet && line.output == "-") {
+    error = "--deps needs an output file; it cannot be combined with -o -";
     return false;
   }
   if (!typeSet) line.fileType = fileTypeOf(line.input);

@@ -3,8 +3,10 @@
 #define LUMERIC_CLI_COMMANDLINE_H
 
 #include <string>
+#include <vector>
 
 #include "cli/MessageFormat.h"
+#include "driver/FieldOverrides.h"
 
 namespace lumeric {
 
@@ -19,10 +21,15 @@ struct CommandLine {
   std::string directory;  // -d
   unsigned long warnings = 0;
   MessageFormat messageFormat = MessageFormat::kPlain;  // --message-format
+  std::vector<FieldOverride> overrides;  // -D, in order
+  std::string depsFile;                  // --deps; empty: none
 };
 
 // Parses argv.  On a usage error returns false with `error` set.
 bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& error);
+
+// Takes "NAME:FIELD=VALUE" apart; false when a part is missing or empty.
+bool parseFieldOverride(const std::string& text, FieldOverride& change);
 
 // The file type CheckSyntax gets for `input`: "vlm" for a ".vlm" extension
 // in any case, else the extension itself (empty when there is none).

@@ -36,6 +36,7 @@ void RunState::reset() {
   sceneMayChooseOutput = true;
   extensionsEnabled = true;
   defNames = nullptr;
+  includedFiles = nullptr;
   readingDepth = 0;
   parseDepth = 0;
   theContext.fileDepth = -1;

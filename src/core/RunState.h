@@ -8,6 +8,8 @@
 #define LUMERIC_CORE_RUNSTATE_H
 
 #include <cstdio>
+#include <string>
+#include <vector>
 
 namespace lumeric {
 
@@ -53,6 +55,8 @@ class RunState {
   QvDefTable* defNames = nullptr;
   // Every named node, by name: a QvPointerList of nodes per name.
   QvNameTable* nameRegistry = nullptr;
+  // When set, receives the name of every file INCLUDE reads.
+  std::vector<std::string>* includedFiles = nullptr;
   // How deep the node reader is nested now.
   int readingDepth = 0;
   // The parses of field expressions in progress, innermost last.

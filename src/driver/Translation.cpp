@@ -10,6 +10,7 @@
 #include "core/QvContext.h"
 #include "core/QvNameTable.h"
 #include "core/RunState.h"
+#include "driver/FieldOverrides.h"
 #include "driver/LibrarySetUp.h"
 #include "reader/NodeReader.h"
 #include "reader/QvSceneInput.h"
@@ -93,11 +94,16 @@ void copyName(char* target, const char* name) {
   target[kOutputNameSize - 1] = '\0';
 }
 
-// What both entry points do: open, read, then `useRoot` on the root, then
-// clean up.  Returns the entry point's result.
+// Whether the run goes on to evaluate the scene after the additions.
+bool applyAdditions(RunAdditions* additions) {
+  return additions == nullptr || applyFieldOverrides(additions->overrides, additions->overrideError);
+}
+
+// What both entry points do: open, read, apply the additions, then
+// `useRoot` on the root, then clean up.  Returns the entry point's result.
 template <typename UseRoot>
 int runTranslation(const char* inputPath, CReportErrorView* view, const char* directory,
-                   const OutputOverride* output, UseRoot useRoot) {
+                   const OutputOverride* output, RunAdditions* additions, UseRoot useRoot) {
   installLibraryOperations();
   theContext.setView(view);
   if (inputPath == nullptr) inputPath = "";
@@ -110,6 +116,7 @@ int runTranslation(const char* inputPath, CReportErrorView* view, const char* di
     return 0;
   }
   if (theRun.nameRegistry == nullptr) theRun.nameRegistry = new QvNameTable();
+  if (additions != nullptr) theRun.includedFiles = &additions->includedFiles;
   int result = 0;
   {
     QvSceneInput input;
@@ -120,7 +127,7 @@ int runTranslation(const char* inputPath, CReportErrorView* view, const char* di
       result = 1;
     } else {
       QvNodeRef hold(root);
-      useRoot(root);
+      if (applyAdditions(additions)) useRoot(root);
     }
     theRun.defNames = nullptr;
   }
@@ -148,11 +155,11 @@ int guarded(Body body) {
 }  // namespace
 
 int translateScene(const char* inputPath, CReportErrorView* view, const char* directory, char* outputNameOut,
-                   const OutputOverride* output) {
+                   const OutputOverride* output, RunAdditions* additions) {
   return guarded([&] {
     theRun.extensionsEnabled = true;
     theRun.sceneMayChooseOutput = output == nullptr;
-    return runTranslation(inputPath, view, directory, output, [&](QvNode* root) {
+    return runTranslation(inputPath, view, directory, output, additions, [&](QvNode* root) {
       copyName(outputNameOut, openOutput(output));
       if (theRun.outputFile == nullptr) return;
       root->evaluateInPlace();
@@ -165,11 +172,12 @@ int translateScene(const char* inputPath, CReportErrorView* view, const char* di
   });
 }
 
-int checkScene(const char* inputPath, CReportErrorView* view, const char* directory, const char* fileType) {
+int checkScene(const char* inputPath, CReportErrorView* view, const char* directory, const char* fileType,
+               RunAdditions* additions) {
   return guarded([&] {
     theRun.extensionsEnabled = fileType != nullptr && strcasecmp(fileType, "vlm") == 0;
     theRun.sceneMayChooseOutput = true;
-    return runTranslation(inputPath, view, directory, nullptr, [](QvNode* root) {
+    return runTranslation(inputPath, view, directory, nullptr, additions, [](QvNode* root) {
       root->evaluateInPlace();
       root->bindParents();
       root->check();

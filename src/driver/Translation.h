@@ -5,6 +5,10 @@
 #define LUMERIC_DRIVER_TRANSLATION_H
 
 #include <cstdio>
+#include <string>
+#include <vector>
+
+#include "driver/FieldOverrides.h"
 
 #include "lumeric/lumeric.h"
 
@@ -20,9 +24,22 @@ struct OutputOverride {
   const char* path = nullptr;
 };
 
+// What the command line adds to a run; the exported entry points use none
+// of it.
+struct RunAdditions {
+  // Applied after the scene is read and before it is evaluated.  When one
+  // fails, `overrideError` says why and the run ends there: nothing is
+  // evaluated or written.
+  std::vector<FieldOverride> overrides;
+  std::string overrideError;
+  // Receives the name of every file INCLUDE read, in the order read.
+  std::vector<std::string> includedFiles;
+};
+
 int translateScene(const char* inputPath, CReportErrorView* view, const char* directory, char* outputNameOut,
-                   const OutputOverride* output);
-int checkScene(const char* inputPath, CReportErrorView* view, const char* directory, const char* fileType);
+                   const OutputOverride* output, RunAdditions* additions = nullptr);
+int checkScene(const char* inputPath, CReportErrorView* view, const char* directory, const char* fileType,
+               RunAdditions* additions = nullptr);
 
 }  // namespace lumeric
 

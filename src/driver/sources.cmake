@@ -1,4 +1,5 @@
 set(LUMERIC_DRIVER_SOURCES
+  src/driver/FieldOverrides.cpp
   src/driver/LibrarySetUp.cpp
   src/driver/Translation.cpp
 )

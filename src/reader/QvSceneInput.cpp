@@ -140,6 +140,8 @@ bool QvSceneInput::eof() const { return state_->atEnd; }
 
 int QvSceneInput::getLine() const { return state_->line; }
 
+void QvSceneInput::setLine(int line) { state_->line = line; }
+
 bool QvSceneInput::isUsable() const { return state_->usable; }
 
 bool QvSceneInput::skipWhiteSpace() {

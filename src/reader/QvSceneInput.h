@@ -98,6 +98,8 @@ class QvSceneInput {
   bool readUnsigned(uint32_t& value);
 
   int getLine() const;
+  // Counts the lines from `line` on, as if the input were there.
+  void setLine(int line);
   bool isUsable() const;
 
   // The DEF table of the scene read through this input.

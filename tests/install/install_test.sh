@@ -35,7 +35,7 @@ prefix="$work/prefix"
 
 # The layout.
 for file in bin/lumeric include/lumeric/lumeric.h share/man/man1/lumeric.1 \
-    share/doc/lumeric/README.md share/doc/lumeric/examples/expressions.vlm \
+    share/doc/lumeric/README.md share/doc/lumeric/language.md share/doc/lumeric/examples/expressions.vlm \
     lib/cmake/lumeric/lumericConfig.cmake lib/cmake/lumeric/lumericConfigVersion.cmake \
     lib/pkgconfig/lumeric.pc; do
   [ -f "$prefix/$file" ] || fail "$file is not installed"

@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "core/QvContext.h"
+#include "core/RunState.h"
 #include "scene/FieldExpression.h"
 #include "reader/NodeReader.h"
 #include "scene/NodeVisit.h"
@@ -24,6 +25,7 @@ QvNode* QvInclude::includeFile(FieldExpression& nameText, QvSceneInput* in) {
   const char* name = nameText.text() != nullptr ? nameText.text() : "";
   FILE* file = std::fopen(name, "r");
   if (file == nullptr) return reportAtExpression(&nameText, "Cannot open INCLUDE file %s", name);
+  if (theRun.includedFiles != nullptr) theRun.includedFiles->push_back(name);
   if (!theContext.pushFile(name)) {
     std::fclose(file);
     return reportAtExpression(&nameText, "Cannot INCLUDE file %s - Files nested too deep", name);

@@ -1,0 +1,4 @@
+set(LUMERIC_DOCS_TESTS
+  docs/GuideExamples.cpp
+  docs/LanguageGuideTest.cpp
+)
