@@ -38,9 +38,13 @@ set(LUMERIC_NODE_SOURCES
   src/nodes/StandardNodeFactory.cpp
   src/nodes/extensions/ExtensionNodeFactory.cpp
   src/nodes/extensions/QvAssignmentStatement.cpp
+  src/nodes/extensions/QvDeclaredFieldsNode.cpp
+  src/nodes/extensions/QvLoop.cpp
   src/nodes/extensions/QvOutputToStatement.cpp
+  src/nodes/extensions/QvParameters.cpp
   src/nodes/extensions/QvPrecisionStatement.cpp
   src/nodes/extensions/QvPrintStatement.cpp
+  src/nodes/extensions/QvSelect.cpp
   src/nodes/extensions/QvStatementNode.cpp
   src/nodes/extensions/QvUseStatement.cpp
 )

@@ -188,13 +188,23 @@ QvNode* createNode(QvSceneInput* in, QvAtom typeName, int line) {
 }
 
 bool refuseFieldSpecification(QvSceneInput* in) {
-  QvAtom word;
-  in->readName(word, QvSceneInput::kLowerName);
-  if (named(word, "fields")) {
+  // The word is read whole and given back whole: a statement's first word
+  // is a value text that may be far longer than the longest name kept.
+  std::string word;
+  char c;
+  if (!in->skipWhiteSpace()) return true;
+  while (in->getChar(c)) {
+    if (!isNameChar(c)) {
+      in->putBackChar(c);
+      break;
+    }
+    word += c;
+  }
+  if (word == "fields") {
     theContext.readError(in, "Cannot use a fields specifications with this node");
     return false;
   }
-  in->putBackWord(word.text());
+  in->putBackWord(word.c_str());
   return true;
 }
 

@@ -8,16 +8,14 @@
 #include <memory>
 #include <string>
 
-#include "reader/QvFieldTable.h"
-#include "reader/QvGroupNode.h"
+#include "nodes/extensions/QvDeclaredFieldsNode.h"
 
 namespace lumeric {
 
-class QvUnknownNode : public QvGroupNode {
+class QvUnknownNode : public QvDeclaredFieldsNode {
  public:
   explicit QvUnknownNode(QvAtom className);
 
-  QvFieldTable* getFieldTable() override { return &fields_; }
   const char* getClassName() const override { return className_.c_str(); }
   void write(FILE* out) override;
 
@@ -28,7 +26,6 @@ class QvUnknownNode : public QvGroupNode {
 
  private:
   std::string className_;
-  QvFieldTable fields_{true};
 };
 
 }  // namespace lumeric

@@ -1,0 +1,51 @@
+// The base of the group nodes whose fields are declared in the scene file
+// rather than by their class (PARAMETERS, LOOP, SELECT, the generators and
+// nodes of unknown class).  The node owns `declaredFields`, which its
+// "fields [ ... ]" specification fills; a class looks up the fields it
+// needs by name and states only its own passes.
+#ifndef LUMERIC_NODES_EXTENSIONS_QVDECLAREDFIELDSNODE_H
+#define LUMERIC_NODES_EXTENSIONS_QVDECLAREDFIELDSNODE_H
+
+#include "reader/QvFieldTable.h"
+#include "reader/QvGroupNode.h"
+
+namespace lumeric {
+
+class QvField;
+
+class QvDeclaredFieldsNode : public QvGroupNode {
+ public:
+  // The declared fields die before the children the group holds.
+  ~QvDeclaredFieldsNode() override;
+
+  QvFieldTable* getFieldTable() override { return &declaredFields; }
+
+  // What a declared field holds when it is read as one number.
+  enum class NumberState { kAbsent, kNoValue, kNotNumber, kNumber };
+  struct NumberValue {
+    NumberState state = NumberState::kAbsent;
+    double value = 0;
+  };
+
+  // The first declared field named `name`, or null.
+  QvField* findDeclaredField(const char* name);
+  // The value of `field` taken as a whole (GetLumericValue(-1, -1)): a
+  // number only when it evaluates to a scalar; vectors, matrices and
+  // strings are kNotNumber, a value that does not evaluate kNoValue, a
+  // null field kAbsent.
+  static NumberValue numberOf(QvField* field);
+
+  QvFieldTable declaredFields{true};
+
+ protected:
+  // isBuiltIn is false: the group reader accepts the fields specification.
+  QvDeclaredFieldsNode() { isBuiltIn = 0; }
+
+  // Adds to `copy` evaluated clones of every declared field, under the
+  // same names and in the same order.
+  void cloneDeclaredFieldsInto(QvDeclaredFieldsNode* copy);
+};
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_NODES_EXTENSIONS_QVDECLAREDFIELDSNODE_H
