@@ -45,7 +45,18 @@ void removeName(QvNode* node, const char* text) {
 double roundToPrecision(double v) {
   double q = precisionQuantum;
   if (!(q > 0)) return v;
-  return std::round(v / q) * q;
+  double steps = v / q;
+  if (!std::isfinite(steps)) return v;
+  return std::round(steps) * q;
+}
+
+bool roundForWriting(double v, double& out) {
+  if (!std::isfinite(v)) {
+    out = 0;
+    return false;
+  }
+  out = roundToPrecision(v);
+  return true;
 }
 
 }  // namespace lumeric

@@ -35,8 +35,14 @@ void addName(class QvNode* node, const char* text);
 void removeName(class QvNode* node, const char* text);
 
 // `v` rounded to the nearest multiple of precisionQuantum (halves away from
-// zero); unchanged when the quantum is 0 or less.
+// zero); unchanged when the quantum is 0 or less, or when v / quantum is
+// beyond the doubles (rounding never makes a finite number infinite).
 double roundToPrecision(double v);
+// The number as it is written: roundToPrecision(v) in `out` and true, or,
+// when `v` is infinite or NaN, 0 in `out` and false; the caller then posts
+// "Number is not finite" where the value came from, so that every output
+// loads.
+bool roundForWriting(double v, double& out);
 
 }  // namespace lumeric
 

@@ -1,3 +1,5 @@
 set(LUMERIC_NODE_TESTS
+  nodes/GeometryWriterTest.cpp
   nodes/NodeCopyTest.cpp
+  nodes/WallMeshTest.cpp
 )

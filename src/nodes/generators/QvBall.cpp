@@ -1,0 +1,26 @@
+#include "nodes/generators/QvBall.h"
+
+#include "driver/QvContext.h"
+#include "expr/Term.h"
+#include "nodes/extensions/NodeVisit.h"
+#include "nodes/generators/GeometryWriter.h"
+#include "reader/QvField.h"
+
+namespace lumeric {
+
+void QvBall::write(FILE* out) {
+  NodeVisit visit(this);
+  QvField* center = findDeclaredField("center");
+  QvField* radius = findDeclaredField("radius");
+  if (radius == nullptr) theContext.reportAtNode(this, "\"radius\" field not defined");
+  if (center == nullptr) theContext.reportAtNode(this, "\"center\" field not defined");
+  if (radius == nullptr || center == nullptr) return;
+  SeparatorBlock block(out, getName());
+  writeChildren(out);
+  if (VectorTerm* c = asVectorOf(center->GetLumericValue(-1, -1, nullptr), 3)) {
+    writeTranslation(out, c->elements[0], c->elements[1], c->elements[2]);
+  }
+  if (ScalarTerm* r = asScalar(radius->GetLumericValue(-1, -1, nullptr))) writeSphere(out, "", r->value);
+}
+
+}  // namespace lumeric

@@ -1,0 +1,28 @@
+// The common part of Ball, Connect and Wall: group nodes whose fields are
+// declared in the file and that are copied, inside LOOPs and SELECTs, as a
+// node of the same class holding evaluated clones of those fields, with
+// copies of the children.
+#ifndef LUMERIC_NODES_GENERATORS_QVGENERATORNODE_H
+#define LUMERIC_NODES_GENERATORS_QVGENERATORNODE_H
+
+#include "nodes/extensions/QvDeclaredFieldsNode.h"
+
+namespace lumeric {
+
+template <class Derived>
+class QvGeneratorNode : public QvDeclaredFieldsNode {
+ protected:
+  QvGeneratorNode() = default;
+
+  // The group's copy (which adds the name, the line and the children)
+  // takes this node.
+  QvNode* newInstance() override {
+    Derived* copy = new Derived();
+    cloneDeclaredFieldsInto(copy);
+    return copy;
+  }
+};
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_NODES_GENERATORS_QVGENERATORNODE_H
