@@ -19,7 +19,30 @@ bool QvNameTable::enter(const void* key, void* value) {
     }
   }
   *link = new Entry{key, value, nullptr};
+  if (++entryCount_ > 2ul * bucketCount_) grow();
   return true;
+}
+
+void QvNameTable::grow() {
+  unsigned oldCount = bucketCount_;
+  Entry** old = buckets_;
+  bucketCount_ = 2 * oldCount + 1;
+  buckets_ = new Entry*[bucketCount_]();
+  // Each new bucket's tail, so that entries keep their order.
+  Entry*** tails = new Entry**[bucketCount_];
+  for (unsigned i = 0; i < bucketCount_; ++i) tails[i] = &buckets_[i];
+  for (unsigned i = 0; i < oldCount; ++i) {
+    for (Entry* e = old[i]; e != nullptr;) {
+      Entry* next = e->next;
+      unsigned b = bucketOf(e->key);
+      e->next = nullptr;
+      *tails[b] = e;
+      tails[b] = &e->next;
+      e = next;
+    }
+  }
+  delete[] tails;
+  delete[] old;
 }
 
 bool QvNameTable::find(const void* key, void*& value) const {
@@ -43,6 +66,7 @@ void QvNameTable::clear() {
     }
     buckets_[i] = nullptr;
   }
+  entryCount_ = 0;
 }
 
 void QvNameTable::forEachValue(const std::function<void(void*)>& visit) const {

@@ -1,5 +1,8 @@
-// A fixed-size hash table keyed by atom handles (compared by identity).
-// Serves the DEF table of a scene input and the registry of named nodes.
+// A hash table keyed by atom handles (compared by identity).  Serves the
+// DEF table of a scene input and the registry of named nodes.  It starts
+// with the given number of buckets and grows when the entries outnumber
+// them twice, so that scenes naming every copy of a large LOOP keep
+// look-ups short.
 #ifndef LUMERIC_READER_QVNAMETABLE_H
 #define LUMERIC_READER_QVNAMETABLE_H
 
@@ -37,8 +40,13 @@ class QvNameTable {
     return static_cast<unsigned>(reinterpret_cast<uintptr_t>(key) % bucketCount_);
   }
 
+  // Moves every entry into about twice as many buckets, keeping the order
+  // of entries within each bucket.
+  void grow();
+
   unsigned bucketCount_;
   Entry** buckets_;
+  unsigned long entryCount_ = 0;
 };
 
 }  // namespace lumeric

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "reader/QvAtom.h"
 #include "reader/QvAtomPool.h"
@@ -82,6 +83,22 @@ TEST(NameTable, KeysInOneBucketStayApart) {
     void* value = nullptr;
     ASSERT_TRUE(table.find(&item, value));
     EXPECT_EQ(value, &item);
+  }
+}
+
+// Far more keys than buckets: the table grows and loses none of them.
+TEST(NameTable, ManyKeysAreAllFoundAfterGrowing) {
+  QvNameTable table;
+  std::vector<int> items(20000);
+  for (int& item : items) EXPECT_TRUE(table.enter(&item, &item));
+  EXPECT_FALSE(table.enter(&items[7], &items[8]));
+  int count = 0;
+  table.forEachValue([&](void*) { ++count; });
+  EXPECT_EQ(count, 20000);
+  for (size_t i = 0; i < items.size(); ++i) {
+    void* value = nullptr;
+    ASSERT_TRUE(table.find(&items[i], value));
+    EXPECT_EQ(value, i == 7 ? &items[8] : &items[i]);
   }
 }
 
