@@ -8,6 +8,13 @@ namespace lumeric {
 
 namespace {
 
+// "DEF name type {" or "type {", indented.
+void writeHeader(OutputText& text, const char* name, const char* type) {
+  text.indentation();
+  if (name != nullptr && name[0] != '\0') text.text("DEF ").text(name).character(' ');
+  text.text(type).text(" {\n");
+}
+
 // The text of one generated node, collected in a buffer: a generator may
 // write a hundred thousand small nodes, and single formatted prints per
 // number would dominate the run.
@@ -15,9 +22,7 @@ class NodeText {
  public:
   // Writes the header and raises the indentation.
   NodeText(FILE* out, const char* name, const char* type) : text_(out) {
-    text_.indentation();
-    if (name != nullptr && name[0] != '\0') text_.text("DEF ").text(name).character(' ');
-    text_.text(type).text(" {\n");
+    writeHeader(text_, name, type);
     ++theContext.indentLevel;
   }
   // Lowers the indentation and writes the closing brace.
@@ -52,17 +57,14 @@ class NodeText {
 }  // namespace
 
 SeparatorBlock::SeparatorBlock(FILE* out, const char* name) : out_(out) {
-  if (name != nullptr && name[0] != '\0') {
-    theContext.writeIndented(out_, "DEF %s %s {\n", name, "Separator");
-  } else {
-    theContext.writeIndented(out_, "%s {\n", "Separator");
-  }
+  OutputText text(out_);
+  writeHeader(text, name, "Separator");
   ++theContext.indentLevel;
 }
 
 SeparatorBlock::~SeparatorBlock() {
   --theContext.indentLevel;
-  theContext.writeIndented(out_, "}\n");
+  OutputText(out_).indentation().text("}\n");
 }
 
 void writeTranslation(FILE* out, double x, double y, double z) {
