@@ -2,6 +2,7 @@
 
 #include "driver/QvContext.h"
 #include "expr/Term.h"
+#include "expr/TermArena.h"
 #include "nodes/extensions/NodeVisit.h"
 #include "nodes/generators/GeometryWriter.h"
 #include "reader/QvField.h"
@@ -10,6 +11,8 @@ namespace lumeric {
 
 void QvBall::write(FILE* out) {
   NodeVisit visit(this);
+  // Every value is written out as text; none of the terms is kept.
+  TermScope scope;
   QvField* center = findDeclaredField("center");
   QvField* radius = findDeclaredField("radius");
   if (radius == nullptr) theContext.reportAtNode(this, "\"radius\" field not defined");

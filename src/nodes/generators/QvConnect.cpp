@@ -6,6 +6,7 @@
 #include "driver/QvContext.h"
 #include "expr/FieldReferences.h"
 #include "expr/Term.h"
+#include "expr/TermArena.h"
 #include "expr/functions/OrientationBetween.h"
 #include "nodes/extensions/NodeVisit.h"
 #include "nodes/generators/GeometryWriter.h"
@@ -36,6 +37,8 @@ QvField* QvConnect::endCenter(QvField* reference, const char* invalidMessage) {
 
 void QvConnect::write(FILE* out) {
   NodeVisit visit(this);
+  // Every value is written out as text; none of the terms is kept.
+  TermScope scope;
   // A field of a name given twice counts with its last declaration; the
   // look-ups of both post their failures, in the order of the file.
   QvField* first = nullptr;

@@ -5,6 +5,7 @@
 #ifndef LUMERIC_NODES_GENERATORS_QVGENERATORNODE_H
 #define LUMERIC_NODES_GENERATORS_QVGENERATORNODE_H
 
+#include "expr/TermArena.h"
 #include "nodes/extensions/QvDeclaredFieldsNode.h"
 
 namespace lumeric {
@@ -18,6 +19,10 @@ class QvGeneratorNode : public QvDeclaredFieldsNode {
   // takes this node.
   QvNode* newInstance() override {
     Derived* copy = new Derived();
+    // The clones keep their values as text, so the terms evaluated for
+    // them can go at once: a LOOP of many generators would otherwise hold
+    // every repetition's terms until the end of the run.
+    TermScope scope;
     cloneDeclaredFieldsInto(copy);
     return copy;
   }

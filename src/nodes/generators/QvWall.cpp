@@ -4,6 +4,7 @@
 
 #include "driver/QvContext.h"
 #include "expr/Term.h"
+#include "expr/TermArena.h"
 #include "nodes/extensions/NodeVisit.h"
 #include "nodes/generators/GeometryWriter.h"
 #include "reader/QvField.h"
@@ -60,7 +61,11 @@ void QvWall::bindParents() {
   bool complete = dataField != nullptr && heightField != nullptr && elevationField != nullptr;
   if (!complete && widthField == nullptr) theContext.reportAtNode(this, "\"width\" field not defined");
   if (!complete) return;
-  mesh = buildMesh();
+  {
+    // The mesh copies the numbers it needs.
+    TermScope scope;
+    mesh = buildMesh();
+  }
   if (mesh != nullptr) bindChildren();
 }
 
