@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Renders the examples gallery: translates every scene in examples/ with
-# lumeric and takes a picture of the result with a headless VRML viewer,
-# into docs/gallery/NAME.png.
+# Renders the examples gallery: translates every scene of the extended
+# language in examples/ (*.vlm) with lumeric and takes a picture of the
+# result with a headless VRML viewer, into docs/gallery/NAME.png.
 #   scripts/gallery.sh [LUMERIC]
 # LUMERIC defaults to build/release/lumeric.  The viewer (view3dscene) and
 # the virtual display it draws on (xvfb-run) are installed with apt-get
@@ -24,7 +24,7 @@ fi
 work="$(mktemp -d)"
 trap 'rm -rf "$work"' EXIT
 mkdir -p "$out"
-for scene in "$root"/examples/*.vlm "$root"/examples/*.wrl; do
+for scene in "$root"/examples/*.vlm; do
   name="$(basename "${scene%.*}")"
   "$lumeric" -o "$work/$name.wrl" "$scene"
   # The picture is taken once the scene is loaded (the 0 is the time in the
