@@ -7,7 +7,7 @@ RELEASE_DIR := build/release
 TEST_DIR := build/test
 DEMO_SCENE ?= examples/expressions.vlm
 
-.PHONY: all deps release demo test bench clean
+.PHONY: all deps release demo test bench bench-generators gallery clean
 
 all: release
 
@@ -28,6 +28,16 @@ test: deps
 
 bench: release
 	bench/run.sh $(RELEASE_DIR)
+	bench/generators.py $(RELEASE_DIR)/lumeric
+
+# The generators against OpenSCAD and POV-Ray, and their growth with size.
+bench-generators: release
+	bench/generators.py $(RELEASE_DIR)/lumeric
+
+# Translates every example scene and renders a picture of each into
+# docs/gallery/.
+gallery: release
+	scripts/gallery.sh $(RELEASE_DIR)/lumeric
 
 clean:
 	rm -rf build

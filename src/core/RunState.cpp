@@ -73,7 +73,9 @@ void removeName(QvNode* node, const char* text) {
 double roundToPrecision(double v) {
   double q = precisionQuantum;
   if (!(q > 0)) return v;
-  return std::round(v / q) * q;
+  double steps = v / q;
+  if (!std::isfinite(steps)) return v;
+  return std::round(steps) * q;
 }
 
 bool warningsEnabled(unsigned long bit) { return (gWarn & bit) != 0; }

@@ -85,7 +85,8 @@ void removeName(QvNode* node, const char* text);
 extern double precisionQuantum;
 
 // `v` rounded to the nearest multiple of precisionQuantum (halves away from
-// zero); unchanged when the quantum is 0 or less.
+// zero); unchanged when the quantum is 0 or less, or when v / quantum is
+// beyond the doubles (rounding never makes a finite number infinite).
 double roundToPrecision(double v);
 
 // The bits of gWarn (the host's warning switch, lumeric.h).

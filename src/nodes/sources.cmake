@@ -48,4 +48,9 @@ set(LUMERIC_NODE_SOURCES
   src/nodes/extensions/QvSelect.cpp
   src/nodes/extensions/QvStatementNode.cpp
   src/nodes/extensions/QvUseStatement.cpp
+  src/nodes/generators/GeometryWriter.cpp
+  src/nodes/generators/QvBall.cpp
+  src/nodes/generators/QvConnect.cpp
+  src/nodes/generators/QvWall.cpp
+  src/nodes/generators/WallMesh.cpp
 )

@@ -1,5 +1,6 @@
 #include "writer/SceneWriter.h"
 
+#include <cmath>
 #include <cstdarg>
 #include <cstring>
 #include <string>
@@ -35,6 +36,15 @@ SceneWriter& SceneWriter::number(double v) {
 }
 
 SceneWriter& SceneWriter::rounded(double v) { return number(roundToPrecision(v)); }
+
+bool SceneWriter::finiteRounded(double v) {
+  if (!std::isfinite(v)) {
+    number(0);
+    return false;
+  }
+  rounded(v);
+  return true;
+}
 
 SceneWriter& SceneWriter::integer(long v) {
   makeRoom(kNumberTextSize);

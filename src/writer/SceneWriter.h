@@ -46,6 +46,11 @@ class SceneWriter {
   SceneWriter& number(double v);
   // "%g" of the number rounded to the PRECISION step (roundToPrecision).
   SceneWriter& rounded(double v);
+  // rounded(v) and true when `v` is finite; "0" and false when it is
+  // infinite or NaN, so that the output loads: the caller then reports
+  // "Number is not finite" where the value came from.  Generated geometry
+  // writes its numbers through this.
+  bool finiteRounded(double v);
   // "%d".
   SceneWriter& integer(long v);
   // printf-formatted text.

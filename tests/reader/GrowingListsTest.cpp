@@ -36,6 +36,9 @@ TEST_F(GrowingTablesTest, NameTableKeepsEveryEntryAcrossGrowth) {
     found += value == (i == 7 ? &keys[8] : &keys[i]) ? 1 : 0;
   }
   EXPECT_EQ(found, kCount);
+  int visited = 0;
+  table.forEachValue([&](void*) { ++visited; });
+  EXPECT_EQ(visited, kCount);
   void* value = &found;
   EXPECT_FALSE(table.find(QvAtom("absent").key(), value));
   EXPECT_EQ(value, nullptr);

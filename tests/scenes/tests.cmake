@@ -1,3 +1,4 @@
 set(LUMERIC_SCENE_TESTS
+  scenes/ExampleTest.cpp
   scenes/SceneTest.cpp
 )

@@ -8,6 +8,9 @@
 #include "nodes/extensions/QvPrintStatement.h"
 #include "nodes/extensions/QvSelect.h"
 #include "nodes/extensions/QvUseStatement.h"
+#include "nodes/generators/QvBall.h"
+#include "nodes/generators/QvConnect.h"
+#include "nodes/generators/QvWall.h"
 #include "scene/NodeClassTable.h"
 
 namespace lumeric {
@@ -25,11 +28,13 @@ const NodeClassEntry kStatements[] = {
     {"PRINT", createNodeOf<QvPrintStatement>},
 };
 
-// Ball, Connect and Wall join here.
 const NodeClassEntry kExtensionNodes[] = {
     {"PARAMETERS", createNodeOf<QvParameters>},
     {"LOOP", createNodeOf<QvLoop>},
     {"SELECT", createNodeOf<QvSelect>},
+    {"Ball", createNodeOf<QvBall>},
+    {"Connect", createNodeOf<QvConnect>},
+    {"Wall", createNodeOf<QvWall>},
 };
 
 }  // namespace

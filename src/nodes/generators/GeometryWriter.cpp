@@ -1,0 +1,134 @@
+#include "nodes/generators/GeometryWriter.h"
+
+#include "scene/NodeVisit.h"
+#include "scene/SceneMessages.h"
+
+namespace lumeric {
+
+namespace {
+
+// "DEF name type {" or "type {", indented.
+void writeHeader(SceneWriter& out, const char* name, const char* type) {
+  if (name != nullptr && name[0] != '\0') {
+    out.line("DEF %s %s {\n", name, type);
+  } else {
+    out.line("%s {\n", type);
+  }
+}
+
+// The frame of one generated node: the header, its lines one level deeper,
+// and the closing brace.
+class NodeFrame {
+ public:
+  NodeFrame(SceneWriter& out, const char* name, const char* type) : out_(out) {
+    writeHeader(out_, name, type);
+    out_.setLevel(out_.level() + 1);
+  }
+  ~NodeFrame() {
+    out_.setLevel(out_.level() - 1);
+    out_.indentation().text("}\n");
+  }
+  NodeFrame(const NodeFrame&) = delete;
+  NodeFrame& operator=(const NodeFrame&) = delete;
+
+ private:
+  SceneWriter& out_;
+};
+
+// The rounded number, preceded by `before`; one that is not finite is
+// reported at the generator being written and written as 0.
+void writeNumber(SceneWriter& out, const char* before, double v) {
+  out.text(before);
+  if (!out.finiteRounded(v)) reportAtNode(theNodeStack.top(), "Number is not finite");
+}
+
+// "name a b c" or, with four numbers, "name a b c  angle"; then a newline.
+void writeVectorLine(SceneWriter& out, const char* name, const double* v, int count) {
+  out.indentation().text(name);
+  for (int k = 0; k < count; ++k) writeNumber(out, k == 3 ? "  " : " ", v[k]);
+  out.character('\n');
+}
+
+}  // namespace
+
+SeparatorBlock::SeparatorBlock(SceneWriter& out, const char* name) : out_(out) {
+  writeHeader(out_, name, "Separator");
+  out_.setLevel(out_.level() + 1);
+}
+
+SeparatorBlock::~SeparatorBlock() {
+  out_.setLevel(out_.level() - 1);
+  out_.indentation().text("}\n");
+}
+
+void writeTranslation(SceneWriter& out, double x, double y, double z) {
+  NodeFrame node(out, nullptr, "Translation");
+  const double v[3] = {x, y, z};
+  writeVectorLine(out, "translation", v, 3);
+}
+
+void writeSphere(SceneWriter& out, const char* name, double radius) {
+  NodeFrame node(out, name, "Sphere");
+  writeVectorLine(out, "radius", &radius, 1);
+}
+
+void writeTransform(SceneWriter& out, const char* name, const double* translation, const double* rotation,
+                    const double* scaleFactor, const double* scaleOrientation, const double* center) {
+  NodeFrame node(out, name, "Transform");
+  if (translation != nullptr) writeVectorLine(out, "translation", translation, 3);
+  if (rotation != nullptr) writeVectorLine(out, "rotation", rotation, 4);
+  if (scaleFactor != nullptr) writeVectorLine(out, "scaleFactor", scaleFactor, 3);
+  if (scaleOrientation != nullptr) writeVectorLine(out, "scaleOrientation", scaleOrientation, 4);
+  if (center != nullptr) writeVectorLine(out, "center", center, 3);
+}
+
+void writeCylinder(SceneWriter& out, const char* name, const char* parts, double radius, double height) {
+  NodeFrame node(out, name, "Cylinder");
+  if (parts != nullptr && parts[0] != '\0') out.line("parts %s\n", parts);
+  writeVectorLine(out, "radius", &radius, 1);
+  writeVectorLine(out, "height", &height, 1);
+}
+
+void writeCoordinate3(SceneWriter& out, const char* name, WallMesh::PointList& points) {
+  NodeFrame node(out, name, "Coordinate3");
+  if (points.empty()) {
+    out.line("point []\n");
+    return;
+  }
+  // The first point follows the bracket on its line; the others stand one
+  // level deeper, one per line.
+  out.line("point [");
+  SceneWriter::Deeper deeper(out);
+  int32_t index = 0;
+  for (WallPoint& point : points) {
+    if (index > 0) out.indentation();
+    point.outputIndex = index++;
+    writeNumber(out, "", point.x);
+    writeNumber(out, " ", point.y);
+    writeNumber(out, " ", point.z);
+    out.text(static_cast<size_t>(index) < points.size() ? ",\n" : " ]\n");
+  }
+}
+
+void writeIndexedFaceSet(SceneWriter& out, const char* name, const WallMesh::FaceList& faces) {
+  NodeFrame node(out, name, "IndexedFaceSet");
+  out.line("coordIndex [");
+  if (faces.empty()) {
+    out.text(" ]\n");
+    return;
+  }
+  {
+    SceneWriter::Deeper deeper(out);
+    for (size_t i = 0; i < faces.size(); ++i) {
+      if (i > 0) out.indentation();
+      // Corners from the last to the first, the reverse of the face's order.
+      for (int k = 3; k >= 0; --k) out.integer(faces[i].corners[k]->outputIndex).text(", ");
+      out.text(i + 1 < faces.size() ? "-1 ,\n" : "-1  ]\n");
+    }
+  }
+  out.line("materialIndex -1\n");
+  out.line("normalIndex -1\n");
+  out.line("textureCoordIndex -1\n");
+}
+
+}  // namespace lumeric
