@@ -23,7 +23,7 @@ void QvAtomPool::freePool() {
 
 bool QvAtomPool::exists() { return thePool != nullptr; }
 
-QvAtomPool::QvAtomPool() : buckets_(new Entry*[kBuckets]()) {}
+QvAtomPool::QvAtomPool() : buckets_(new Entry*[kStartingBuckets]()) {}
 
 QvAtomPool::~QvAtomPool() {
   for (unsigned i = 0; i < bucketCount_; ++i) {

@@ -1,7 +1,8 @@
 // The pool behind QvAtom: a hash table of texts stored in 4000-byte
-// blocks.  The table starts with 1999 buckets and grows as texts come, so
-// that interning stays fast with millions of names.  It exists from its first use to freePool(), which the
-// end-of-run clean-up calls; every atom handle of the run dies then.
+// blocks.  The table grows as texts come, so that interning stays fast
+// with millions of names.  It exists from its first use to freePool(),
+// which the end-of-run clean-up calls; every atom handle of the run dies
+// then.
 #ifndef LUMERIC_CORE_QVATOMPOOL_H
 #define LUMERIC_CORE_QVATOMPOOL_H
 
@@ -12,10 +13,6 @@ namespace lumeric {
 
 class QvAtomPool {
  public:
-  // The starting bucket count.
-  static constexpr unsigned kBuckets = 1999;
-  static constexpr size_t kBlockSize = 4000;
-
   // The pool of the run, created on first use.
   static QvAtomPool& instance();
   // Frees the pool with all its texts.  Safe when there is none.
@@ -33,6 +30,9 @@ class QvAtomPool {
   QvAtomPool& operator=(const QvAtomPool&) = delete;
 
  private:
+  static constexpr unsigned kStartingBuckets = 1999;
+  static constexpr size_t kBlockSize = 4000;
+
   struct Entry {
     const char* text;
     size_t length;
@@ -53,7 +53,7 @@ class QvAtomPool {
   void grow();
 
   Entry** buckets_;
-  unsigned bucketCount_ = kBuckets;
+  unsigned bucketCount_ = kStartingBuckets;
   size_t entryCount_ = 0;
   Block* current_ = nullptr;  // the block new short texts go to
   Block* large_ = nullptr;    // texts that got an allocation of their own

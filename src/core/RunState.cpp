@@ -6,7 +6,6 @@
 #include "core/QvAtomPool.h"
 #include "core/QvContext.h"
 #include "core/QvNameTable.h"
-#include "core/QvPointerList.h"
 #include "lumeric/lumeric.h"
 
 unsigned long gWarn = 0;
@@ -24,11 +23,8 @@ void RunState::atEndOfRun(void (*release)()) {
 }
 
 void RunState::reset() {
-  if (nameRegistry != nullptr) {
-    nameRegistry->forEachValue([](void* list) { delete static_cast<QvPointerList*>(list); });
-    delete nameRegistry;
-    nameRegistry = nullptr;
-  }
+  delete nameRegistry;
+  nameRegistry = nullptr;
   QvAtomPool::freePool();
   for (int k = 0; k < releaseCount_; ++k) releases_[k]();
   outputFile = nullptr;
@@ -44,30 +40,13 @@ void RunState::reset() {
 
 void addName(QvNode* node, const char* text) {
   if (theRun.nameRegistry == nullptr) theRun.nameRegistry = new QvNameTable();
-  QvAtom key(text);
-  void* value = nullptr;
-  if (!theRun.nameRegistry->find(key.key(), value)) {
-    value = new QvPointerList();
-    theRun.nameRegistry->enter(key.key(), value);
-  }
-  static_cast<QvPointerList*>(value)->append(node);
+  theRun.nameRegistry->add(QvAtom(text), node);
 }
 
 void removeName(QvNode* node, const char* text) {
-  void* value = nullptr;
-  QvPointerList* list = nullptr;
-  if (theRun.nameRegistry != nullptr && theRun.nameRegistry->find(QvAtom(text).key(), value)) {
-    list = static_cast<QvPointerList*>(value);
-  }
-  // Nodes die in about the reverse order of their naming (a group releases
-  // its children last first), so the search starts at the end of the list.
-  int index = list == nullptr ? -1 : list->findLast(node);
-  if (index < 0) {
-    QvContext::programError("QvNode::removeName", "Program Error: Name \"%s\" (node %p) is not in dictionary", text,
-                            static_cast<void*>(node));
-    return;
-  }
-  list->remove(index);
+  if (theRun.nameRegistry != nullptr && theRun.nameRegistry->remove(QvAtom(text), node)) return;
+  QvContext::programError("QvNode::removeName", "Program Error: Name \"%s\" (node %p) is not in dictionary", text,
+                          static_cast<void*>(node));
 }
 
 double roundToPrecision(double v) {

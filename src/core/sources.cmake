@@ -1,4 +1,5 @@
 set(LUMERIC_CORE_SOURCES
+  src/core/AtomKeyedTable.cpp
   src/core/CharacterClasses.cpp
   src/core/NumberText.cpp
   src/core/QvAtom.cpp

@@ -5,17 +5,13 @@
 namespace lumeric {
 
 bool QvDefTable::addName(QvAtom name, QvNode* node) {
-  void* previous = nullptr;
-  bool wasDefined = table_.find(name.key(), previous);
-  table_.enter(name.key(), node);
+  bool wasDefined = !table_.enter(name, node);
   node->setName(name, wasDefined);
   return wasDefined;
 }
 
 QvNode* QvDefTable::findName(QvAtom name) const {
-  void* node = nullptr;
-  table_.find(name.key(), node);
-  return static_cast<QvNode*>(node);
+  return table_.find(name);
 }
 
 }  // namespace lumeric

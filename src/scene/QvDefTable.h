@@ -5,7 +5,7 @@
 #define LUMERIC_SCENE_QVDEFTABLE_H
 
 #include "core/QvAtom.h"
-#include "core/QvNameTable.h"
+#include "core/AtomMap.h"
 
 namespace lumeric {
 
@@ -24,7 +24,7 @@ class QvDefTable {
   QvNode* findName(QvAtom name) const;
 
  private:
-  QvNameTable table_;
+  AtomMap<QvNode> table_;
 };
 
 }  // namespace lumeric

@@ -2,8 +2,8 @@
 #ifndef LUMERIC_SCENE_QVNODELIST_H
 #define LUMERIC_SCENE_QVNODELIST_H
 
+#include "core/PointerList.h"
 #include "scene/QvNode.h"
-#include "core/QvPointerList.h"
 
 namespace lumeric {
 
@@ -15,7 +15,7 @@ class QvNodeList {
   QvNodeList& operator=(const QvNodeList&) = delete;
 
   int getLength() const { return list_.getLength(); }
-  QvNode* get(int index) const { return static_cast<QvNode*>(list_.get(index)); }
+  QvNode* get(int index) const { return list_.get(index); }
   // Appends and takes a reference; returns the new index.
   int append(QvNode* node) {
     if (node != nullptr) node->ref();
@@ -34,7 +34,7 @@ class QvNodeList {
     for (int i = 0; i < nodes.getLength(); ++i) {
       if (nodes.get(i) != nullptr) nodes.get(i)->ref();
     }
-    list_.insert(nodes.list_.items(), nodes.getLength(), index);
+    list_.insertAll(nodes.list_, index);
   }
   int find(const QvNode* node) const { return list_.find(node); }
   // Releases the nodes from `length` on.
@@ -47,7 +47,7 @@ class QvNodeList {
   }
 
  private:
-  QvPointerList list_;
+  PointerList<QvNode> list_;
 };
 
 }  // namespace lumeric

@@ -4,6 +4,7 @@
 
 #include "core/QvAtom.h"
 #include "core/QvAtomPool.h"
+#include "core/AtomKeyedTable.h"
 #include "core/QvNameTable.h"
 #include "core/QvPointerList.h"
 
@@ -55,8 +56,8 @@ TEST(AtomHash, ShiftsGrowByFiveAndWrapPast24) {
   EXPECT_EQ(QvAtomPool::hash("\xff", 1), 0xFFFFFFFFu);
 }
 
-TEST(NameTable, EnteringAKeyTwiceKeepsOneEntryWithTheLaterValue) {
-  QvNameTable table;
+TEST(AtomKeyedTable, EnteringAKeyTwiceKeepsOneEntryWithTheLaterValue) {
+  AtomKeyedTable table;
   int a = 1;
   int b = 2;
   const void* key = &a;
@@ -74,8 +75,8 @@ TEST(NameTable, EnteringAKeyTwiceKeepsOneEntryWithTheLaterValue) {
   EXPECT_FALSE(table.find(key, value));
 }
 
-TEST(NameTable, KeysInOneBucketStayApart) {
-  QvNameTable table(1);
+TEST(AtomKeyedTable, KeysInOneBucketStayApart) {
+  AtomKeyedTable table(1);
   int items[5];
   for (int& item : items) table.enter(&item, &item);
   for (int& item : items) {
@@ -83,6 +84,24 @@ TEST(NameTable, KeysInOneBucketStayApart) {
     ASSERT_TRUE(table.find(&item, value));
     EXPECT_EQ(value, &item);
   }
+}
+
+// Nodes enter the registry when named and leave when renamed or freed;
+// leaving a name the node never had is the caller's error.
+TEST_F(AtomTest, NameRegistryRemovesTheLastEntryOfANodeOnly) {
+  QvNode* a = reinterpret_cast<QvNode*>(0x10);
+  QvNode* b = reinterpret_cast<QvNode*>(0x20);
+  QvNameTable names;
+  EXPECT_FALSE(names.remove(QvAtom("Wheel"), a));
+  names.add(QvAtom("Wheel"), a);
+  names.add(QvAtom("Wheel"), b);
+  names.add(QvAtom("Wheel"), a);
+  EXPECT_FALSE(names.remove(QvAtom("Axle"), a));
+  EXPECT_TRUE(names.remove(QvAtom("Wheel"), a));
+  EXPECT_TRUE(names.remove(QvAtom("Wheel"), a));
+  EXPECT_FALSE(names.remove(QvAtom("Wheel"), a));
+  EXPECT_TRUE(names.remove(QvAtom("Wheel"), b));
+  EXPECT_FALSE(names.remove(QvAtom("Wheel"), b));
 }
 
 TEST(PointerList, InsertRemoveAndFindKeepOrder) {

@@ -8,7 +8,7 @@
 
 #include "core/QvAtom.h"
 #include "core/QvAtomPool.h"
-#include "core/QvNameTable.h"
+#include "core/AtomMap.h"
 #include "core/QvPointerList.h"
 #include "scene/QvNodeList.h"
 #include "support/TestNodes.h"
@@ -21,30 +21,28 @@ class GrowingTablesTest : public ::testing::Test {
   void TearDown() override { QvAtomPool::freePool(); }
 };
 
-TEST_F(GrowingTablesTest, NameTableKeepsEveryEntryAcrossGrowth) {
-  QvNameTable table(3);
+TEST_F(GrowingTablesTest, AtomMapKeepsEveryEntryAcrossGrowth) {
+  AtomMap<QvAtom> table(3);
   const int kCount = 20000;
   std::vector<QvAtom> keys;
   for (int i = 0; i < kCount; ++i) keys.emplace_back(("n" + std::to_string(i)).c_str());
-  for (int i = 0; i < kCount; ++i) EXPECT_TRUE(table.enter(keys[i].key(), &keys[i]));
+  for (int i = 0; i < kCount; ++i) EXPECT_TRUE(table.enter(keys[i], &keys[i]));
   // A second entry under a key replaces the value, before and after growth.
-  EXPECT_FALSE(table.enter(keys[7].key(), &keys[8]));
+  EXPECT_FALSE(table.enter(keys[7], &keys[8]));
   int found = 0;
   for (int i = 0; i < kCount; ++i) {
-    void* value = nullptr;
-    ASSERT_TRUE(table.find(keys[i].key(), value)) << i;
-    found += value == (i == 7 ? &keys[8] : &keys[i]) ? 1 : 0;
+    ASSERT_TRUE(table.contains(keys[i])) << i;
+    found += table.find(keys[i]) == (i == 7 ? &keys[8] : &keys[i]) ? 1 : 0;
   }
   EXPECT_EQ(found, kCount);
   int visited = 0;
-  table.forEachValue([&](void*) { ++visited; });
+  table.forEachValue([&](QvAtom*) { ++visited; });
   EXPECT_EQ(visited, kCount);
-  void* value = &found;
-  EXPECT_FALSE(table.find(QvAtom("absent").key(), value));
-  EXPECT_EQ(value, nullptr);
+  EXPECT_FALSE(table.contains(QvAtom("absent")));
+  EXPECT_EQ(table.find(QvAtom("absent")), nullptr);
   table.clear();
-  EXPECT_FALSE(table.find(keys[0].key(), value));
-  EXPECT_TRUE(table.enter(keys[0].key(), &keys[0]));
+  EXPECT_FALSE(table.contains(keys[0]));
+  EXPECT_TRUE(table.enter(keys[0], &keys[0]));
 }
 
 TEST_F(GrowingTablesTest, AtomsStayUniqueAcrossGrowth) {
