@@ -32,14 +32,12 @@ class NestingLevel {
 
 bool named(QvAtom atom, const char* text) { return std::strcmp(atom.text(), text) == 0; }
 
-bool isStatementKeyword(QvAtom name) {
-  if (named(name, "USE")) return true;
-  if (!theRun.extensionsEnabled) return false;
-  static const char* const kKeywords[] = {"SET", "APPEND", "DECLARE", "OUTPUT_TO", "INCLUDE", "PRECISION", "PRINT"};
-  for (const char* keyword : kKeywords) {
-    if (named(name, keyword)) return true;
-  }
-  return false;
+// The statement `name` starts, or null when it starts none.  The statement
+// factory is the one list of keywords; USE belongs to plain VRML, the
+// others only to the extended language.
+QvNode* createStatementFor(QvAtom name) {
+  if (!theRun.extensionsEnabled && !named(name, "USE")) return nullptr;
+  return sceneOperations().createStatement(name.text());
 }
 
 void stampPosition(QvNode* node, int line) {
@@ -144,9 +142,8 @@ bool readNode(QvSceneInput* in, QvNode*& node) {
   if (theRun.readingDepth > kMaxNodeDepth) {
     return readError(in, "Nodes nested too deep - at most %d levels", kMaxNodeDepth);
   }
-  if (isStatementKeyword(typeName)) {
-    node = sceneOperations().createStatement(typeName.text());
-    if (node == nullptr) return true;
+  node = createStatementFor(typeName);
+  if (node != nullptr) {
     stampPosition(node, line);
     node->readInstance(in);
     return true;

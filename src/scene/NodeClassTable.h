@@ -18,6 +18,13 @@ QvNode* createNodeOf() {
   return new Node();
 }
 
+// The row of a class that states its name in `kClassName`, so that the
+// name is written once, in the class.
+template <class Node>
+constexpr NodeClassEntry classEntry() {
+  return {Node::kClassName, createNodeOf<Node>};
+}
+
 // A new node of the class named `name` (compared exactly), or null.
 template <size_t N>
 QvNode* createFromTable(const NodeClassEntry (&table)[N], const char* name) {

@@ -4,4 +4,5 @@ set(LUMERIC_READER_TESTS
   reader/GrowingListsTest.cpp
   reader/HostileSceneTest.cpp
   reader/QvSceneInputTest.cpp
+  reader/StatementKeywordTest.cpp
 )

@@ -18,23 +18,23 @@ namespace lumeric {
 namespace {
 
 const NodeClassEntry kStatements[] = {
-    {"USE", createNodeOf<QvUseStatement>},
-    {"SET", createNodeOf<QvSetStatement>},
-    {"APPEND", createNodeOf<QvAppendStatement>},
-    {"DECLARE", createNodeOf<QvDeclareStatement>},
-    {"OUTPUT_TO", createNodeOf<QvOutputToStatement>},
-    {"INCLUDE", createNodeOf<QvInclude>},
-    {"PRECISION", createNodeOf<QvPrecisionStatement>},
-    {"PRINT", createNodeOf<QvPrintStatement>},
+    classEntry<QvUseStatement>(),
+    classEntry<QvSetStatement>(),
+    classEntry<QvAppendStatement>(),
+    classEntry<QvDeclareStatement>(),
+    classEntry<QvOutputToStatement>(),
+    classEntry<QvInclude>(),
+    classEntry<QvPrecisionStatement>(),
+    classEntry<QvPrintStatement>(),
 };
 
 const NodeClassEntry kExtensionNodes[] = {
-    {"PARAMETERS", createNodeOf<QvParameters>},
-    {"LOOP", createNodeOf<QvLoop>},
-    {"SELECT", createNodeOf<QvSelect>},
-    {"Ball", createNodeOf<QvBall>},
-    {"Connect", createNodeOf<QvConnect>},
-    {"Wall", createNodeOf<QvWall>},
+    classEntry<QvParameters>(),
+    classEntry<QvLoop>(),
+    classEntry<QvSelect>(),
+    classEntry<QvBall>(),
+    classEntry<QvConnect>(),
+    classEntry<QvWall>(),
 };
 
 }  // namespace

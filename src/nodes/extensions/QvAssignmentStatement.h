@@ -31,19 +31,22 @@ class QvAssignmentStatement : public QvStatementNode {
 class QvSetStatement : public QvAssignmentStatement {
  public:
   QvSetStatement() : QvAssignmentStatement("set") {}
-  const char* getClassName() const override { return "SET"; }
+  static constexpr const char* kClassName = "SET";
+  const char* getClassName() const override { return kClassName; }
 };
 
 class QvAppendStatement : public QvAssignmentStatement {
  public:
   QvAppendStatement() : QvAssignmentStatement("append") {}
-  const char* getClassName() const override { return "APPEND"; }
+  static constexpr const char* kClassName = "APPEND";
+  const char* getClassName() const override { return kClassName; }
 };
 
 class QvDeclareStatement : public QvAssignmentStatement {
  public:
   QvDeclareStatement() : QvAssignmentStatement("declare") {}
-  const char* getClassName() const override { return "DECLARE"; }
+  static constexpr const char* kClassName = "DECLARE";
+  const char* getClassName() const override { return kClassName; }
 };
 
 }  // namespace lumeric

@@ -15,7 +15,8 @@ class QvInclude : public QvGroupNode {
   QvInclude() { isBuiltIn = 0; }
 
   QvFieldTable* getFieldTable() override { return &fields_; }
-  const char* getClassName() const override { return "INCLUDE"; }
+  static constexpr const char* kClassName = "INCLUDE";
+  const char* getClassName() const override { return kClassName; }
   // Passes the pass on to the included root with this statement's own
   // arguments, so copies made from it go to the group holding the INCLUDE.
   void evaluate(QvGroupNode* parent, bool copy) override;

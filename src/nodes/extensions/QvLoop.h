@@ -19,7 +19,8 @@ class QvLoop : public QvDeclaredFieldsNode {
  public:
   QvLoop() = default;
 
-  const char* getClassName() const override { return "LOOP"; }
+  static constexpr const char* kClassName = "LOOP";
+  const char* getClassName() const override { return kClassName; }
   // Makes the repetitions; `copy` does not change what is made, only where
   // it goes (see the .cpp).  Messages go to the LOOP's file and line.
   void evaluate(QvGroupNode* parent, bool copy) override;

@@ -9,7 +9,8 @@ namespace lumeric {
 
 class QvOutputToStatement : public QvStatementNode {
  public:
-  const char* getClassName() const override { return "OUTPUT_TO"; }
+  static constexpr const char* kClassName = "OUTPUT_TO";
+  const char* getClassName() const override { return kClassName; }
   void write(SceneWriter& out) override;
   bool readInstance(QvSceneInput* in) override;
 };

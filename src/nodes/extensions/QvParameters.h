@@ -13,7 +13,8 @@ class QvParameters : public QvDeclaredFieldsNode {
  public:
   QvParameters() = default;
 
-  const char* getClassName() const override { return "PARAMETERS"; }
+  static constexpr const char* kClassName = "PARAMETERS";
+  const char* getClassName() const override { return kClassName; }
   // In place: the children, with this node on the node stack so their
   // expressions find its fields.  Copied: a plain Group (named as this
   // node is) added to `parent`, holding copies of the children; the

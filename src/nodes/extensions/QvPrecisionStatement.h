@@ -10,7 +10,8 @@ namespace lumeric {
 
 class QvPrecisionStatement : public QvStatementNode {
  public:
-  const char* getClassName() const override { return "PRECISION"; }
+  static constexpr const char* kClassName = "PRECISION";
+  const char* getClassName() const override { return kClassName; }
   void evaluate(QvGroupNode* parent, bool copy) override;
   void bindParents() override;
   void write(SceneWriter& out) override;

@@ -9,7 +9,8 @@ namespace lumeric {
 
 class QvPrintStatement : public QvStatementNode {
  public:
-  const char* getClassName() const override { return "PRINT"; }
+  static constexpr const char* kClassName = "PRINT";
+  const char* getClassName() const override { return kClassName; }
   void evaluate(QvGroupNode* parent, bool copy) override;
   void write(SceneWriter& out) override;
   bool readInstance(QvSceneInput* in) override;

@@ -13,7 +13,8 @@ class QvSelect : public QvDeclaredFieldsNode {
  public:
   QvSelect() = default;
 
-  const char* getClassName() const override { return "SELECT"; }
+  static constexpr const char* kClassName = "SELECT";
+  const char* getClassName() const override { return kClassName; }
   // In place: every child, chosen or not, so statements in all of them
   // run.  Copied: copies of the chosen children go straight into
   // `parent`; the SELECT makes no copy of itself.

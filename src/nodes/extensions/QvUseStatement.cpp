@@ -34,7 +34,7 @@ void QvUseStatement::evaluate(QvGroupNode* parentGroup, bool copy) {
 }
 
 void QvUseStatement::write(SceneWriter& out) {
-  out.line("%s", "USE");
+  out.line("%s", kClassName);
   parent = theNodeStack.top();
   StringTerm* name = asString(evaluateTerm(&expression_));
   if (name != nullptr && name->text != nullptr) {

@@ -12,7 +12,8 @@ class QvUseStatement : public QvStatementNode {
   // "use " and the name expression are shorter than this.
   static constexpr int kMaxText = 256;
 
-  const char* getClassName() const override { return "USE"; }
+  static constexpr const char* kClassName = "USE";
+  const char* getClassName() const override { return kClassName; }
   void evaluate(QvGroupNode* parent, bool copy) override;
   void write(SceneWriter& out) override;
   bool readInstance(QvSceneInput* in) override;

@@ -13,7 +13,8 @@ class QvBall : public QvGeneratorNode<QvBall> {
  public:
   QvBall() = default;
 
-  const char* getClassName() const override { return "Ball"; }
+  static constexpr const char* kClassName = "Ball";
+  const char* getClassName() const override { return kClassName; }
   // Posts which of radius and center is not declared and writes nothing
   // then.  A center that is not three numbers leaves out the Translation,
   // a radius that is not one number the Sphere, without a message.

@@ -15,7 +15,8 @@ class QvConnect : public QvGeneratorNode<QvConnect> {
  public:
   QvConnect() = default;
 
-  const char* getClassName() const override { return "Connect"; }
+  static constexpr const char* kClassName = "Connect";
+  const char* getClassName() const override { return kClassName; }
   // Posts every reference that fails, then each end or radius that is
   // missing, and writes nothing then; values of the wrong kind write
   // nothing silently; two equal ends are reported and write nothing.

@@ -22,7 +22,8 @@ class QvWall : public QvGeneratorNode<QvWall> {
   QvWall() = default;
   ~QvWall() override;
 
-  const char* getClassName() const override { return "Wall"; }
+  static constexpr const char* kClassName = "Wall";
+  const char* getClassName() const override { return kClassName; }
   // In place the children are not visited; a copy is made as for every
   // generator.
   void evaluate(QvGroupNode* parent, bool copy) override;
