@@ -2,6 +2,8 @@
 
 #include <cstdio>
 
+#include "core/VariadicArguments.h"
+
 namespace lumeric {
 
 QvContext theContext;
@@ -37,42 +39,27 @@ void QvContext::postAt(int flag, bool hasPlace, const char* file, int line, cons
 }
 
 Failure QvContext::reportAt(const char* file, int line, const char* format, ...) {
-  va_list args;
-  va_start(args, format);
-  postAt(kError, true, file, line, format, args);
-  va_end(args);
+  LUMERIC_WITH_VA_ARGS(postAt(kError, true, file, line, format, args));
   return Failure();
 }
 
 void QvContext::warnAt(const char* file, int line, const char* format, ...) {
-  va_list args;
-  va_start(args, format);
-  postAt(kWarning, true, file, line, format, args);
-  va_end(args);
+  LUMERIC_WITH_VA_ARGS(postAt(kWarning, true, file, line, format, args));
 }
 
 Failure QvContext::report(const char* format, ...) {
-  va_list args;
-  va_start(args, format);
-  post(kError, "", format, args);
-  va_end(args);
+  LUMERIC_WITH_VA_ARGS(post(kError, "", format, args));
   return Failure();
 }
 
 void QvContext::warn(const char* format, ...) {
-  va_list args;
-  va_start(args, format);
-  post(kWarning, "", format, args);
-  va_end(args);
+  LUMERIC_WITH_VA_ARGS(post(kWarning, "", format, args));
 }
 
 Failure QvContext::reportInFile(const char* format, ...) {
   char prefix[kMessageLimit + 1] = "";
   if (topFile() != nullptr) std::snprintf(prefix, sizeof prefix, "File \"%s\" ", topFile());
-  va_list args;
-  va_start(args, format);
-  post(kError, prefix, format, args);
-  va_end(args);
+  LUMERIC_WITH_VA_ARGS(post(kError, prefix, format, args));
   return Failure();
 }
 
@@ -85,19 +72,13 @@ Failure QvContext::reportAtLineInFile(int line, const char* format, ...) {
   } else {
     std::snprintf(prefix, sizeof prefix, "Line %d: ", line);
   }
-  va_list args;
-  va_start(args, format);
-  post(kError, prefix, format, args);
-  va_end(args);
+  LUMERIC_WITH_VA_ARGS(post(kError, prefix, format, args));
   return Failure();
 }
 
 void QvContext::programError(const char* operation, const char* format, ...) {
   char text[kMessageLimit + 1];
-  va_list args;
-  va_start(args, format);
-  std::vsnprintf(text, sizeof text, format, args);
-  va_end(args);
+  LUMERIC_WITH_VA_ARGS(std::vsnprintf(text, sizeof text, format, args));
   std::fprintf(stderr, "VRML error in %s(): %s", operation, text);
 }
 

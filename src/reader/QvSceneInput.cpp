@@ -5,6 +5,7 @@
 #include <climits>
 #include <cstdlib>
 #include <cstring>
+#include <limits>
 
 #include "core/CharacterClasses.h"
 #include "core/QvContext.h"
@@ -365,28 +366,25 @@ bool QvSceneInput::readDigits(std::string& digits, bool allowSign) {
 // Values beyond the range of the target type saturate at its limits, as
 // the standard conversions do for their own types: a defined value rather
 // than a wrapped one.
-bool QvSceneInput::readInteger(int32_t& value) {
+template <typename Integer>
+bool QvSceneInput::readClampedInteger(Integer& value) {
+  using Limits = std::numeric_limits<Integer>;
   std::string digits;
-  if (!readDigits(digits, true)) return false;
-  long long v = std::strtoll(digits.c_str(), nullptr, 0);
-  value = static_cast<int32_t>(v < INT32_MIN ? INT32_MIN : v > INT32_MAX ? INT32_MAX : v);
+  if (!readDigits(digits, Limits::is_signed)) return false;
+  if constexpr (Limits::is_signed) {
+    long long v = std::strtoll(digits.c_str(), nullptr, 0);
+    value = static_cast<Integer>(v < Limits::min() ? Limits::min() : v > Limits::max() ? Limits::max() : v);
+  } else {
+    unsigned long long v = std::strtoull(digits.c_str(), nullptr, 0);
+    value = static_cast<Integer>(v > Limits::max() ? Limits::max() : v);
+  }
   return true;
 }
 
-bool QvSceneInput::readShort(int16_t& value) {
-  std::string digits;
-  if (!readDigits(digits, true)) return false;
-  long long v = std::strtoll(digits.c_str(), nullptr, 0);
-  value = static_cast<int16_t>(v < INT16_MIN ? INT16_MIN : v > INT16_MAX ? INT16_MAX : v);
-  return true;
-}
+bool QvSceneInput::readInteger(int32_t& value) { return readClampedInteger(value); }
 
-bool QvSceneInput::readUnsigned(uint32_t& value) {
-  std::string digits;
-  if (!readDigits(digits, false)) return false;
-  unsigned long long v = std::strtoull(digits.c_str(), nullptr, 0);
-  value = static_cast<uint32_t>(v > UINT32_MAX ? UINT32_MAX : v);
-  return true;
-}
+bool QvSceneInput::readShort(int16_t& value) { return readClampedInteger(value); }
+
+bool QvSceneInput::readUnsigned(uint32_t& value) { return readClampedInteger(value); }
 
 }  // namespace lumeric

@@ -115,6 +115,9 @@ class QvSceneInput {
   bool readRaw(char& c);  // the file only, no header check
   void unreadRaw();
   bool readDigits(std::string& digits, bool allowSign);
+  // An integer of type Integer (a sign only when it is signed).
+  template <typename Integer>
+  bool readClampedInteger(Integer& value);
 
   SavedState state_;
   QvDefTable defTable_;

@@ -1,9 +1,9 @@
 #include "reader/ReadErrors.h"
 
-#include <cstdarg>
 #include <cstdio>
 
 #include "core/QvContext.h"
+#include "core/VariadicArguments.h"
 #include "reader/QvSceneInput.h"
 
 namespace lumeric {
@@ -12,10 +12,7 @@ Failure readError(const QvSceneInput* in, const char* format, ...) {
   // Formatted first and posted as "%s": the message is cut as a whole, and
   // a long text may exceed what one message holds.
   static char text[10000];
-  va_list args;
-  va_start(args, format);
-  std::vsnprintf(text, sizeof text, format, args);
-  va_end(args);
+  LUMERIC_WITH_VA_ARGS(std::vsnprintf(text, sizeof text, format, args));
   return theContext.reportAtLineInFile(in != nullptr ? in->getLine() : 0, "%s", text);
 }
 

@@ -1,8 +1,7 @@
 #include "scene/SceneMessages.h"
 
-#include <cstdarg>
-
 #include "core/QvContext.h"
+#include "core/VariadicArguments.h"
 #include "scene/FieldExpression.h"
 #include "scene/QvNode.h"
 
@@ -23,33 +22,21 @@ void postAtExpression(int flag, const FieldExpression* expr, const char* format,
 }  // namespace
 
 Failure reportAtNode(const QvNode* node, const char* format, ...) {
-  va_list args;
-  va_start(args, format);
-  postAtNode(QvContext::kError, node, format, args);
-  va_end(args);
+  LUMERIC_WITH_VA_ARGS(postAtNode(QvContext::kError, node, format, args));
   return Failure();
 }
 
 void warnAtNode(const QvNode* node, const char* format, ...) {
-  va_list args;
-  va_start(args, format);
-  postAtNode(QvContext::kWarning, node, format, args);
-  va_end(args);
+  LUMERIC_WITH_VA_ARGS(postAtNode(QvContext::kWarning, node, format, args));
 }
 
 Failure reportAtExpression(const FieldExpression* expr, const char* format, ...) {
-  va_list args;
-  va_start(args, format);
-  postAtExpression(QvContext::kError, expr, format, args);
-  va_end(args);
+  LUMERIC_WITH_VA_ARGS(postAtExpression(QvContext::kError, expr, format, args));
   return Failure();
 }
 
 void warnAtExpression(const FieldExpression* expr, const char* format, ...) {
-  va_list args;
-  va_start(args, format);
-  postAtExpression(QvContext::kWarning, expr, format, args);
-  va_end(args);
+  LUMERIC_WITH_VA_ARGS(postAtExpression(QvContext::kWarning, expr, format, args));
 }
 
 void reportAt(const FieldExpression* at, const char* message) { reportAtExpression(at, "%s", message); }

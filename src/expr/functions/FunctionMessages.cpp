@@ -1,9 +1,9 @@
 #include "expr/functions/FunctionMessages.h"
 
-#include <cstdarg>
 #include <cstdio>
 
 #include "core/QvContext.h"
+#include "core/VariadicArguments.h"
 #include "scene/SceneMessages.h"
 
 namespace lumeric {
@@ -21,18 +21,12 @@ void post(FieldExpression* at, const char* format, va_list args) {
 }  // namespace
 
 Term* refuseCall(FieldExpression* at, const char* format, ...) {
-  va_list args;
-  va_start(args, format);
-  post(at, format, args);
-  va_end(args);
+  LUMERIC_WITH_VA_ARGS(post(at, format, args));
   return nullptr;
 }
 
 void reportAndGoOn(FieldExpression* at, const char* format, ...) {
-  va_list args;
-  va_start(args, format);
-  post(at, format, args);
-  va_end(args);
+  LUMERIC_WITH_VA_ARGS(post(at, format, args));
 }
 
 }  // namespace lumeric
