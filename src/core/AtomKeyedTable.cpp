@@ -1,5 +1,7 @@
 #include "core/AtomKeyedTable.h"
 
+#include "core/EntryChain.h"
+
 namespace lumeric {
 
 namespace {
@@ -63,15 +65,7 @@ bool AtomKeyedTable::find(const void* key, void*& value) const {
 }
 
 void AtomKeyedTable::clear() {
-  for (unsigned i = 0; i < bucketCount_; ++i) {
-    Entry* e = buckets_[i];
-    while (e != nullptr) {
-      Entry* next = e->next;
-      delete e;
-      e = next;
-    }
-    buckets_[i] = nullptr;
-  }
+  for (unsigned i = 0; i < bucketCount_; ++i) deleteChain(buckets_[i]);
   entryCount_ = 0;
 }
 

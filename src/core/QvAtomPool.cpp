@@ -5,6 +5,8 @@
 #include <cstring>
 #include <new>
 
+#include "core/EntryChain.h"
+
 namespace lumeric {
 
 namespace {
@@ -26,14 +28,7 @@ bool QvAtomPool::exists() { return thePool != nullptr; }
 QvAtomPool::QvAtomPool() : buckets_(new Entry*[kStartingBuckets]()) {}
 
 QvAtomPool::~QvAtomPool() {
-  for (unsigned i = 0; i < bucketCount_; ++i) {
-    Entry* head = buckets_[i];
-    while (head != nullptr) {
-      Entry* next = head->next;
-      delete head;
-      head = next;
-    }
-  }
+  for (unsigned i = 0; i < bucketCount_; ++i) deleteChain(buckets_[i]);
   delete[] buckets_;
   for (Block* chain : {current_, large_}) {
     while (chain != nullptr) {
@@ -56,25 +51,24 @@ uint32_t QvAtomPool::hash(const char* text, size_t length) {
   return h;
 }
 
+// A new empty block of `size` bytes put in front of the chain `head`.
+QvAtomPool::Block* QvAtomPool::pushBlock(Block*& head, size_t size) {
+  Block* block = static_cast<Block*>(std::malloc(sizeof(Block) + size));
+  if (block == nullptr) throw std::bad_alloc();
+  block->previous = head;
+  block->size = size;
+  block->used = 0;
+  head = block;
+  return block;
+}
+
 char* QvAtomPool::store(const char* text, size_t length) {
   size_t need = length + 1;
   Block* block;
   if (need >= kBlockSize) {
-    block = static_cast<Block*>(std::malloc(sizeof(Block) + need));
-    if (block == nullptr) throw std::bad_alloc();
-    block->previous = large_;
-    block->size = need;
-    block->used = 0;
-    large_ = block;
+    block = pushBlock(large_, need);
   } else {
-    if (current_ == nullptr || current_->size - current_->used < need) {
-      block = static_cast<Block*>(std::malloc(sizeof(Block) + kBlockSize));
-      if (block == nullptr) throw std::bad_alloc();
-      block->previous = current_;
-      block->size = kBlockSize;
-      block->used = 0;
-      current_ = block;
-    }
+    if (current_ == nullptr || current_->size - current_->used < need) pushBlock(current_, kBlockSize);
     block = current_;
   }
   char* place = block->data() + block->used;

@@ -49,6 +49,7 @@ class QvAtomPool {
   QvAtomPool();
   ~QvAtomPool();
   char* store(const char* text, size_t length);
+  static Block* pushBlock(Block*& head, size_t size);
   // About twice the buckets once the texts outnumber them twice.
   void grow();
 
