@@ -202,16 +202,36 @@ TEST_F(SceneInputTest, WordsAndCharactersCanBeGivenBack) {
 
 TEST_F(SceneInputTest, TheDefTableFindsTheLatestNode) {
   TextInput input(kHeader);
-  PlainTestNode first;
-  PlainTestNode second;
-  EXPECT_FALSE(input->addName(QvAtom("Box"), &first));
-  EXPECT_TRUE(input->addName(QvAtom("Box"), &second));
-  EXPECT_EQ(input->findName(QvAtom("Box")), &second);
+  PlainTestNode* first = new PlainTestNode;
+  PlainTestNode* second = new PlainTestNode;
+  EXPECT_FALSE(input->addName(QvAtom("Box"), first));
+  EXPECT_TRUE(input->addName(QvAtom("Box"), second));
+  EXPECT_EQ(input->findName(QvAtom("Box")), second);
   EXPECT_EQ(input->findName(QvAtom("Ball")), nullptr);
-  EXPECT_STREQ(first.getName(), "Box");
-  // Renaming both releases their registry entries before the clean-up.
-  first.setName(QvAtom());
-  second.setName(QvAtom());
+  EXPECT_STREQ(first->getName(), "Box");
+}
+
+// A node nobody else holds stays alive while the table has it, the one
+// replaced included, and dies with the table.
+TEST_F(SceneInputTest, TheDefTableKeepsItsNodesAliveUntilItIsDestroyed) {
+  int destroyed = 0;
+  struct CountedNode : PlainTestNode {
+    explicit CountedNode(int& counter) : counter_(counter) {}
+    ~CountedNode() override { ++counter_; }
+    int& counter_;
+  };
+  {
+    TextInput input(kHeader);
+    QvNode* first = new CountedNode(destroyed);
+    QvNode* second = new CountedNode(destroyed);
+    input->addName(QvAtom("Box"), first);
+    first->ref();
+    first->unref();  // what a reader does with a node whose reading failed
+    input->addName(QvAtom("Box"), second);
+    EXPECT_EQ(destroyed, 0);
+    EXPECT_STREQ(first->getName(), "Box");
+  }
+  EXPECT_EQ(destroyed, 2);
 }
 
 TEST_F(SceneInputTest, SavedStateComesBackWithItsLineCount) {
