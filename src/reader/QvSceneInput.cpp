@@ -22,6 +22,12 @@ constexpr size_t kHeaderKeep = 255;
 // of the integer kinds needs more digits, and the value saturates anyway.
 constexpr size_t kMaxIntegerDigits = 40;
 
+// A line end was read.  The count stops at the largest line number rather
+// than overflow; messages then name that line.
+void countLine(QvSceneInput::State& s) {
+  if (s.line < INT_MAX) ++s.line;
+}
+
 bool isAsciiLower(char c) { return c >= 'a' && c <= 'z'; }
 bool isAsciiUpper(char c) { return c >= 'A' && c <= 'Z'; }
 bool isHexDigit(char c) { return std::isxdigit(static_cast<unsigned char>(c)) != 0; }
@@ -87,7 +93,7 @@ bool QvSceneInput::checkHeader() {
     std::string kept(1, '#');
     while (readRaw(c)) {
       if (c == '\n') {
-        ++s.line;
+        countLine(s);
         break;
       }
       if (kept.size() < kHeaderKeep) kept += c;
@@ -140,6 +146,8 @@ bool QvSceneInput::eof() const { return state_->atEnd; }
 
 int QvSceneInput::getLine() const { return state_->line; }
 
+void QvSceneInput::setLineForTesting(int line) { state_->line = line; }
+
 bool QvSceneInput::isUsable() const { return state_->usable; }
 
 bool QvSceneInput::skipWhiteSpace() {
@@ -149,12 +157,12 @@ bool QvSceneInput::skipWhiteSpace() {
   char c;
   while (getChar(c)) {
     if (c == '\n') {
-      ++s.line;
+      countLine(s);
     } else if (c == '#') {
       bool closed = false;
       while (getChar(c)) {
         if (c == '\n') {
-          ++s.line;
+          countLine(s);
           closed = true;
           break;
         }
@@ -242,7 +250,7 @@ bool QvSceneInput::readString(std::string& text) {
       }
       putBackChar(next);
     } else if (c == '\n') {
-      ++state_->line;
+      countLine(*state_);
     }
     text += c;
   }
@@ -275,7 +283,7 @@ bool QvSceneInput::readValueText(FieldExpression& expr, QvNode* node) {
     }
     if (!getChar(c)) break;
     if (c == '\n') {
-      ++state_->line;
+      countLine(*state_);
       break;
     }
     bool balanced = openParens == closeParens;
@@ -285,7 +293,7 @@ bool QvSceneInput::readValueText(FieldExpression& expr, QvNode* node) {
     }
     if (c == '\\') {
       if (!getChar(c)) break;
-      if (c == '\n') ++state_->line;
+      if (c == '\n') countLine(*state_);
       text[length++] = c;
       continue;
     }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <string>
 
 #include "core/QvContext.h"
@@ -232,6 +233,23 @@ TEST_F(SceneInputTest, TheDefTableKeepsItsNodesAliveUntilItIsDestroyed) {
     EXPECT_STREQ(first->getName(), "Box");
   }
   EXPECT_EQ(destroyed, 2);
+}
+
+TEST_F(SceneInputTest, TheLineCountStopsAtItsLargestValue) {
+  TextInput input(kHeader + "\n\n# comment\n\"a\nb\" x\ny\n\n\nz");
+  input->skipWhiteSpace();
+  input->setLineForTesting(INT_MAX - 2);
+  std::string text;
+  ASSERT_TRUE(input->readString(text));
+  EXPECT_EQ(input->getLine(), INT_MAX - 1);
+  ASSERT_TRUE(input->readString(text));
+  QvAtom name;
+  ASSERT_TRUE(input->readName(name, QvSceneInput::kLowerName));
+  EXPECT_STREQ(name.text(), "y");
+  EXPECT_EQ(input->getLine(), INT_MAX);
+  ASSERT_TRUE(input->readName(name, QvSceneInput::kLowerName));
+  EXPECT_STREQ(name.text(), "z");
+  EXPECT_EQ(input->getLine(), INT_MAX);
 }
 
 TEST_F(SceneInputTest, SavedStateComesBackWithItsLineCount) {
