@@ -70,7 +70,12 @@ void removeName(QvNode* node, const char* text) {
 double roundToPrecision(double v) {
   double q = precisionQuantum;
   if (!(q > 0)) return v;
-  return std::round(v / q) * q;
+  // Values too large for the step keep their own digits rather than
+  // overflow to infinity.
+  const double steps = v / q;
+  if (!std::isfinite(steps)) return v;
+  const double r = std::round(steps) * q;
+  return std::isfinite(r) ? r : v;
 }
 
 bool warningsEnabled(unsigned long bit) { return (gWarn & bit) != 0; }

@@ -81,7 +81,8 @@ void removeName(QvNode* node, const char* text);
 extern double precisionQuantum;
 
 // `v` rounded to the nearest multiple of precisionQuantum (halves away from
-// zero); unchanged when the quantum is 0 or less.
+// zero); unchanged when the quantum is 0 or less, and when the value is
+// too large for the step (rounding never makes a finite value infinite).
 double roundToPrecision(double v);
 
 // The bits of gWarn (the host's warning switch, lumeric.h).

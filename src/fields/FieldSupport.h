@@ -28,6 +28,10 @@ void storeString(FieldExpression& expr, const char* text, bool quoted);
 // Removes the text of `count` consecutive expressions.
 void clearTexts(FieldExpression* exprs, int count);
 
+// `v` when it is a finite number; otherwise reports "Number is not finite"
+// at `at` and gives 0, so that every written value loads.
+double writable(double v, FieldExpression* at);
+
 // `v` truncated toward zero.  Values beyond the int range saturate and NaN
 // gives 0, so that no input can make the conversion undefined.
 int truncateToInt(double v);

@@ -1,5 +1,7 @@
 #include "writer/SceneWriter.h"
 
+#include <cerrno>
+#include <cmath>
 #include <cstdarg>
 #include <cstring>
 #include <string>
@@ -29,6 +31,9 @@ SceneWriter& SceneWriter::character(char c) {
 }
 
 SceneWriter& SceneWriter::number(double v) {
+  // "inf" and "nan" load in no reader; the fields report such a value
+  // before it gets here.
+  if (!std::isfinite(v)) v = 0;
   makeRoom(kNumberTextSize);
   used_ += static_cast<size_t>(formatNumber(buffer_ + used_, v));
   return *this;

@@ -42,7 +42,8 @@ class SceneWriter {
   // Pieces of text, appended as given.
   SceneWriter& text(const char* s);
   SceneWriter& character(char c);
-  // "%g" of the number, exactly as printf writes it.
+  // "%g" of the number, exactly as printf writes it; 0 for infinities and
+  // NaN.
   SceneWriter& number(double v);
   // "%g" of the number rounded to the PRECISION step (roundToPrecision).
   SceneWriter& rounded(double v);
