@@ -5,6 +5,7 @@
 #include <string>
 
 #include "cli/MessageFormat.h"
+#include "core/RunState.h"
 
 namespace lumeric {
 
@@ -19,6 +20,7 @@ struct CommandLine {
   std::string directory;  // -d
   unsigned long warnings = 0;
   MessageFormat messageFormat = MessageFormat::kPlain;  // --message-format
+  RunLimits limits;  // --max-evaluations, --max-nodes, --confine
 };
 
 // Parses argv.  On a usage error returns false with `error` set.

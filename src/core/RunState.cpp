@@ -31,8 +31,16 @@ void RunState::reset() {
   }
   QvAtomPool::freePool();
   for (int k = 0; k < releaseCount_; ++k) releases_[k]();
+  pendingOutput.abandon();
+  outputWriteError = 0;
   outputFile = nullptr;
   outputFileName[0] = '\0';
+  limits = RunLimits();
+  confinedTo.clear();
+  nestedEvaluations = 0;
+  evaluationBudgetSpent = false;
+  copiedNodes = 0;
+  nodeBudgetSpent = false;
   sceneMayChooseOutput = true;
   extensionsEnabled = true;
   defNames = nullptr;

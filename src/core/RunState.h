@@ -8,6 +8,9 @@
 #define LUMERIC_CORE_RUNSTATE_H
 
 #include <cstdio>
+#include <string>
+
+#include "core/OutputFile.h"
 
 namespace lumeric {
 
@@ -24,6 +27,19 @@ constexpr int kMaxNodeDepth = 63;
 // How deep field references may nest parses of other fields' expressions.
 constexpr int kMaxNestedParses = 200;
 
+// What one run may do.  The defaults are far beyond any real scene; they
+// stop scenes that would run for hours or exhaust memory.  A caller (the
+// command line) may change them before a run; the run's end restores them.
+struct RunLimits {
+  // Evaluations started from inside other evaluations (field references).
+  long maxEvaluations = 10000000;
+  // Nodes made by copying (LOOP, SELECT, USE).
+  long maxNodes = 10000000;
+  // INCLUDE reads and OUTPUT_TO writes only regular files inside the
+  // directory of the input.
+  bool confine = false;
+};
+
 class RunState {
  public:
   RunState() = default;
@@ -38,8 +54,15 @@ class RunState {
   // the same operation again changes nothing.
   void atEndOfRun(void (*release)());
 
+  RunLimits limits;
+
   // The output scene file; OUTPUT_TO may open it while the scene is read.
+  // It is the stream of `pendingOutput`, or a stream the caller gave.
   FILE* outputFile = nullptr;
+  // The output file being written, until it replaces its target.
+  OutputFile pendingOutput;
+  // The system error number of the first write to the output that failed.
+  int outputWriteError = 0;
   // The name OUTPUT_TO gave the output file.
   char outputFileName[kOutputNameSize] = "";
   // Whether OUTPUT_TO may open a file in this run (not when the caller
@@ -53,6 +76,17 @@ class RunState {
   QvDefTable* defNames = nullptr;
   // Every named node, by name: a QvPointerList of nodes per name.
   QvNameTable* nameRegistry = nullptr;
+  // With limits.confine: the resolved directory of the input, inside which
+  // files may be read and written.
+  std::string confinedTo;
+  // Evaluations started from inside other evaluations, and whether the
+  // budget's message has been posted.
+  long nestedEvaluations = 0;
+  bool evaluationBudgetSpent = false;
+  // Nodes made by copying, and whether the budget's message has been
+  // posted.
+  long copiedNodes = 0;
+  bool nodeBudgetSpent = false;
   // How deep the node reader is nested now.
   int readingDepth = 0;
   // The parses of field expressions in progress, innermost last.

@@ -28,6 +28,12 @@ void countLine(QvSceneInput::State& s) {
   if (s.line < INT_MAX) ++s.line;
 }
 
+// Adds a character of a string unless the string is full; the rest of a
+// longer string is read and dropped, so no input can fill the memory.
+void keep(std::string& text, char c) {
+  if (text.size() < QvSceneInput::kMaxStringLength) text += c;
+}
+
 bool isAsciiLower(char c) { return c >= 'a' && c <= 'z'; }
 bool isAsciiUpper(char c) { return c >= 'A' && c <= 'Z'; }
 bool isHexDigit(char c) { return std::isxdigit(static_cast<unsigned char>(c)) != 0; }
@@ -232,7 +238,7 @@ bool QvSceneInput::readString(std::string& text) {
         putBackChar(c);
         break;
       }
-      text += c;
+      keep(text, c);
     }
     return true;
   }
@@ -241,18 +247,18 @@ bool QvSceneInput::readString(std::string& text) {
     if (c == '\\') {
       char next;
       if (!getChar(next)) {
-        text += c;
+        keep(text, c);
         break;
       }
       if (next == '"') {
-        text += '"';
+        keep(text, '"');
         continue;
       }
       putBackChar(next);
     } else if (c == '\n') {
       countLine(*state_);
     }
-    text += c;
+    keep(text, c);
   }
   return true;
 }

@@ -15,7 +15,7 @@ SceneWriter& SceneWriter::text(const char* s) {
   size_t length = std::strlen(s);
   if (length > sizeof buffer_ / 2) {
     flush();
-    std::fwrite(s, 1, length, stream_);
+    put(s, length);
     return *this;
   }
   makeRoom(length);
@@ -96,8 +96,13 @@ void SceneWriter::closeNode() {
 }
 
 void SceneWriter::flush() {
-  if (used_ > 0) std::fwrite(buffer_, 1, used_, stream_);
+  if (used_ > 0) put(buffer_, used_);
   used_ = 0;
+}
+
+void SceneWriter::put(const char* s, size_t length) {
+  errno = 0;
+  if (std::fwrite(s, 1, length, stream_) != length && writeError_ == 0) writeError_ = errno != 0 ? errno : EIO;
 }
 
 }  // namespace lumeric

@@ -151,6 +151,19 @@ TEST_F(SceneInputTest, StringsQuotedAndUnquoted) {
   EXPECT_EQ(text, "bare{,]x");
 }
 
+TEST_F(SceneInputTest, LongStringsAreReadWholeAndKeptShort) {
+  const std::string word(100000, 'w');
+  TextInput input(kHeader + word + " \"" + word + "\" next");
+  for (int k = 0; k < 2; ++k) {
+    std::string text;
+    ASSERT_TRUE(input->readString(text));
+    EXPECT_EQ(text, word.substr(0, QvSceneInput::kMaxStringLength));
+  }
+  std::string text;
+  ASSERT_TRUE(input->readString(text));
+  EXPECT_EQ(text, "next");
+}
+
 TEST_F(SceneInputTest, IntegersInThreeBases) {
   struct {
     std::string text;
