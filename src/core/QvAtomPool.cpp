@@ -23,16 +23,18 @@ void QvAtomPool::freePool() {
 
 bool QvAtomPool::exists() { return thePool != nullptr; }
 
-QvAtomPool::QvAtomPool() = default;
+QvAtomPool::QvAtomPool() : buckets_(new Entry*[kBuckets]()) {}
 
 QvAtomPool::~QvAtomPool() {
-  for (Entry*& head : buckets_) {
+  for (unsigned i = 0; i < bucketCount_; ++i) {
+    Entry* head = buckets_[i];
     while (head != nullptr) {
       Entry* next = head->next;
       delete head;
       head = next;
     }
   }
+  delete[] buckets_;
   for (Block* chain : {current_, large_}) {
     while (chain != nullptr) {
       Block* previous = chain->previous;
@@ -84,13 +86,31 @@ char* QvAtomPool::store(const char* text, size_t length) {
 
 const char* QvAtomPool::intern(const char* text, size_t length) {
   uint32_t h = hash(text, length);
-  Entry*& head = buckets_[h % kBuckets];
+  Entry*& head = buckets_[h % bucketCount_];
   for (Entry* e = head; e != nullptr; e = e->next) {
     if (e->hash == h && e->length == length && std::memcmp(e->text, text, length) == 0) return e->text;
   }
   Entry* entry = new Entry{store(text, length), length, h, head};
   head = entry;
+  if (++entryCount_ > 2 * static_cast<size_t>(bucketCount_)) grow();
   return entry->text;
+}
+
+void QvAtomPool::grow() {
+  unsigned count = bucketCount_ * 2 + 1;
+  Entry** buckets = new Entry*[count]();
+  for (unsigned i = 0; i < bucketCount_; ++i) {
+    for (Entry* e = buckets_[i]; e != nullptr;) {
+      Entry* next = e->next;
+      Entry*& head = buckets[e->hash % count];
+      e->next = head;
+      head = e;
+      e = next;
+    }
+  }
+  delete[] buckets_;
+  buckets_ = buckets;
+  bucketCount_ = count;
 }
 
 }  // namespace lumeric

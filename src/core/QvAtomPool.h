@@ -1,5 +1,6 @@
-// The pool behind QvAtom: a 1999-bucket hash table of texts stored in
-// 4000-byte blocks.  It exists from its first use to freePool(), which the
+// The pool behind QvAtom: a hash table of texts stored in 4000-byte
+// blocks.  The table starts with 1999 buckets and grows as texts come, so
+// that interning stays fast with millions of names.  It exists from its first use to freePool(), which the
 // end-of-run clean-up calls; every atom handle of the run dies then.
 #ifndef LUMERIC_CORE_QVATOMPOOL_H
 #define LUMERIC_CORE_QVATOMPOOL_H
@@ -11,6 +12,7 @@ namespace lumeric {
 
 class QvAtomPool {
  public:
+  // The starting bucket count.
   static constexpr unsigned kBuckets = 1999;
   static constexpr size_t kBlockSize = 4000;
 
@@ -47,8 +49,12 @@ class QvAtomPool {
   QvAtomPool();
   ~QvAtomPool();
   char* store(const char* text, size_t length);
+  // About twice the buckets once the texts outnumber them twice.
+  void grow();
 
-  Entry* buckets_[kBuckets] = {};
+  Entry** buckets_;
+  unsigned bucketCount_ = kBuckets;
+  size_t entryCount_ = 0;
   Block* current_ = nullptr;  // the block new short texts go to
   Block* large_ = nullptr;    // texts that got an allocation of their own
 };

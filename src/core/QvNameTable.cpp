@@ -19,7 +19,29 @@ bool QvNameTable::enter(const void* key, void* value) {
     }
   }
   *link = new Entry{key, value, nullptr};
+  if (++entryCount_ > 2 * static_cast<size_t>(bucketCount_)) grow();
   return true;
+}
+
+void QvNameTable::grow() {
+  unsigned count = bucketCount_ * 2 + 1;
+  Entry** buckets = new Entry*[count]();
+  Entry** tails = new Entry*[count]();
+  // Entries keep their order within each new bucket.
+  for (unsigned i = 0; i < bucketCount_; ++i) {
+    for (Entry* e = buckets_[i]; e != nullptr;) {
+      Entry* next = e->next;
+      unsigned b = static_cast<unsigned>(reinterpret_cast<uintptr_t>(e->key) % count);
+      e->next = nullptr;
+      (tails[b] != nullptr ? tails[b]->next : buckets[b]) = e;
+      tails[b] = e;
+      e = next;
+    }
+  }
+  delete[] tails;
+  delete[] buckets_;
+  buckets_ = buckets;
+  bucketCount_ = count;
 }
 
 bool QvNameTable::find(const void* key, void*& value) const {
@@ -43,6 +65,7 @@ void QvNameTable::clear() {
     }
     buckets_[i] = nullptr;
   }
+  entryCount_ = 0;
 }
 
 void QvNameTable::forEachValue(const std::function<void(void*)>& visit) const {

@@ -1,8 +1,12 @@
-// A fixed-size hash table keyed by atom handles (compared by identity).
-// Serves the DEF table of a scene input and the registry of named nodes.
+// A hash table keyed by atom handles (compared by identity).  Serves the
+// DEF table of a scene input and the registry of named nodes.  It starts
+// with the bucket count it is given and grows as entries come, so that a
+// look-up stays short with millions of names; nothing outside depends on
+// the bucket count.
 #ifndef LUMERIC_CORE_QVNAMETABLE_H
 #define LUMERIC_CORE_QVNAMETABLE_H
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 
@@ -12,6 +16,7 @@ class QvNameTable {
  public:
   static constexpr unsigned kDefaultBuckets = 251;
 
+  // `buckets` is the starting bucket count.
   explicit QvNameTable(unsigned buckets = kDefaultBuckets);
   ~QvNameTable();
   QvNameTable(const QvNameTable&) = delete;
@@ -36,9 +41,12 @@ class QvNameTable {
   unsigned bucketOf(const void* key) const {
     return static_cast<unsigned>(reinterpret_cast<uintptr_t>(key) % bucketCount_);
   }
+  // About twice the buckets once the entries outnumber them twice.
+  void grow();
 
   unsigned bucketCount_;
   Entry** buckets_;
+  size_t entryCount_ = 0;
 };
 
 }  // namespace lumeric

@@ -30,6 +30,15 @@ void QvPointerList::insert(void* item, int index) {
   ++count_;
 }
 
+void QvPointerList::insert(void* const* items, int count, int index) {
+  if (count <= 0) return;
+  if (index < 0 || index > count_) index = count_;
+  grow(count_ + count);
+  std::memmove(items_ + index + count, items_ + index, sizeof(void*) * (count_ - index));
+  std::memcpy(items_ + index, items, sizeof(void*) * count);
+  count_ += count;
+}
+
 void QvPointerList::remove(int index) {
   if (index < 0 || index >= count_) return;
   std::memmove(items_ + index, items_ + index + 1, sizeof(void*) * (count_ - index - 1));
@@ -38,6 +47,13 @@ void QvPointerList::remove(int index) {
 
 int QvPointerList::find(const void* item) const {
   for (int i = 0; i < count_; ++i) {
+    if (items_[i] == item) return i;
+  }
+  return -1;
+}
+
+int QvPointerList::findLast(const void* item) const {
+  for (int i = count_ - 1; i >= 0; --i) {
     if (items_[i] == item) return i;
   }
   return -1;

@@ -15,14 +15,21 @@ class QvPointerList {
   int getLength() const { return count_; }
   void* get(int index) const { return items_[index]; }
   void set(int index, void* item) { items_[index] = item; }
+  // The entries in order (null when there are none).
+  void* const* items() const { return items_; }
 
   void append(void* item);
   // Inserts before `index` (0..length); later entries move up.
   void insert(void* item, int index);
+  // Inserts `count` entries before `index` (0..length, else appends),
+  // moving the later entries up once for all of them.
+  void insert(void* const* items, int count, int index);
   // Removes the entry at `index`; later entries move down.
   void remove(int index);
   // Index of the first entry equal to `item`, or -1.
   int find(const void* item) const;
+  // Index of the last entry equal to `item`, or -1.
+  int findLast(const void* item) const;
   // Drops every entry from `length` on.
   void truncate(int length);
 

@@ -66,7 +66,9 @@ void removeName(QvNode* node, const char* text) {
   if (theRun.nameRegistry != nullptr && theRun.nameRegistry->find(QvAtom(text).key(), value)) {
     list = static_cast<QvPointerList*>(value);
   }
-  int index = list == nullptr ? -1 : list->find(node);
+  // Nodes die in about the reverse order of their naming (a group releases
+  // its children last first), so the search starts at the end of the list.
+  int index = list == nullptr ? -1 : list->findLast(node);
   if (index < 0) {
     QvContext::programError("QvNode::removeName", "Program Error: Name \"%s\" (node %p) is not in dictionary", text,
                             static_cast<void*>(node));

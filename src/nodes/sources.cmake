@@ -36,12 +36,16 @@ set(LUMERIC_NODE_SOURCES
   src/nodes/QvWWWInline.cpp
   src/nodes/QvGroup.cpp
   src/nodes/StandardNodeFactory.cpp
+  src/nodes/extensions/DeclaredNumber.cpp
   src/nodes/extensions/ExtensionNodeFactory.cpp
   src/nodes/extensions/QvAssignmentStatement.cpp
   src/nodes/extensions/QvInclude.cpp
+  src/nodes/extensions/QvLoop.cpp
   src/nodes/extensions/QvOutputToStatement.cpp
+  src/nodes/extensions/QvParameters.cpp
   src/nodes/extensions/QvPrecisionStatement.cpp
   src/nodes/extensions/QvPrintStatement.cpp
+  src/nodes/extensions/QvSelect.cpp
   src/nodes/extensions/QvStatementNode.cpp
   src/nodes/extensions/QvUseStatement.cpp
 )

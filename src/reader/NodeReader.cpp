@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "core/CharacterClasses.h"
 #include "core/QvContext.h"
 #include "core/RunState.h"
 #include "reader/FieldReading.h"
@@ -181,10 +182,20 @@ QvNode* createNode(QvSceneInput* in, QvAtom typeName, int line) {
 }
 
 bool refuseFieldSpecification(QvSceneInput* in) {
-  QvAtom word;
-  in->readName(word, QvSceneInput::kLowerName);
-  if (named(word, "fields")) return readError(in, "Cannot use a fields specifications with this node");
-  in->putBackWord(word.text());
+  // The word is read whole and given back whole: a statement's first word
+  // is a value text that may be far longer than the longest name kept.
+  std::string word;
+  char c;
+  if (!in->skipWhiteSpace()) return true;
+  while (in->getChar(c)) {
+    if (!isNameChar(c)) {
+      in->putBackChar(c);
+      break;
+    }
+    word += c;
+  }
+  if (word == "fields") return readError(in, "Cannot use a fields specifications with this node");
+  in->putBackWord(word.c_str());
   return true;
 }
 

@@ -7,15 +7,11 @@
 
 namespace lumeric {
 
-QvUnknownNode::QvUnknownNode(QvAtom className) : className_(className.text()) { isBuiltIn = 0; }
+QvUnknownNode::QvUnknownNode(QvAtom className) : className_(className.text()) {}
 
 QvNode* QvUnknownNode::newInstance() {
   QvUnknownNode* duplicate = new QvUnknownNode(QvAtom(className_.c_str()));
-  for (int i = 0; i < fields_.getNumFields(); ++i) {
-    QvField* field = fields_.getField(this, i)->clone();
-    field->setContainer(duplicate);
-    duplicate->fields_.addField(duplicate, fields_.getFieldName(i), field);
-  }
+  cloneDeclaredFieldsInto(duplicate);
   return duplicate;
 }
 
@@ -24,7 +20,7 @@ void QvUnknownNode::write(SceneWriter& out) {
   {
     NodeVisit visit(this);
     out.indentation().text("fields");
-    fields_.writeSpecsAndValues(out, this);
+    declaredFields.writeSpecsAndValues(out, this);
     out.character('\n');
     writeChildren(out);
   }

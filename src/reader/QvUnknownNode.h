@@ -8,16 +8,14 @@
 #include <memory>
 #include <string>
 
-#include "scene/QvFieldTable.h"
-#include "scene/QvGroupNode.h"
+#include "scene/QvDeclaredFieldsNode.h"
 
 namespace lumeric {
 
-class QvUnknownNode : public QvGroupNode {
+class QvUnknownNode : public QvDeclaredFieldsNode {
  public:
   explicit QvUnknownNode(QvAtom className);
 
-  QvFieldTable* getFieldTable() override { return &fields_; }
   const char* getClassName() const override { return className_.c_str(); }
   void write(SceneWriter& out) override;
   bool readInstance(QvSceneInput* in) override;
@@ -29,7 +27,6 @@ class QvUnknownNode : public QvGroupNode {
 
  private:
   std::string className_;
-  QvFieldTable fields_{true};
 };
 
 }  // namespace lumeric

@@ -21,8 +21,6 @@ QvAtom trimmedAtom(const char* text) {
   return QvAtom(text, length);
 }
 
-bool named(QvAtom atom, const char* text) { return std::strcmp(atom.text(), text) == 0; }
-
 }  // namespace
 
 QvFieldTable::~QvFieldTable() {

@@ -12,8 +12,17 @@ void QvGroupNode::evaluateChildren(QvGroupNode* target, bool copy) {
   // this group are visited in the same pass.
   for (int i = 0; i < children.getLength(); ++i) {
     QvNode* child = children.get(i);
+    evaluatingIndex_ = i;
     if (child != nullptr) child->evaluate(target, copy);
   }
+}
+
+int QvGroupNode::indexOfChild(const QvNode* child) const {
+  // A child that inserts nodes behind itself while its group evaluates it
+  // finds its place without a search of the list.
+  int hint = evaluatingIndex_;
+  if (hint >= 0 && hint < children.getLength() && children.get(hint) == child) return hint;
+  return children.find(child);
 }
 
 void QvGroupNode::evaluate(QvGroupNode* parentGroup, bool copy) {
@@ -43,8 +52,8 @@ void QvGroupNode::bindParents() {
   bindChildren();
 }
 
-void QvGroupNode::writeChildren(SceneWriter& out) {
-  for (int i = 0; i < children.getLength(); ++i) {
+void QvGroupNode::writeChildren(SceneWriter& out, int first) {
+  for (int i = first < 0 ? 0 : first; i < children.getLength(); ++i) {
     QvNode* child = children.get(i);
     if (child != nullptr) child->write(out);
   }

@@ -31,15 +31,23 @@ class QvGroupNode : public QvNode {
   int addChild(QvNode* child) { return children.append(child); }
   void insertChild(QvNode* child, int index) { children.insert(child, index); }
   int findChild(const QvNode* child) const { return children.find(child); }
+  // Inserts the nodes of `nodes`, in order, before `index` (-1 appends).
+  void insertChildren(const QvNodeList& nodes, int index) { children.insertAll(nodes, index); }
+  // findChild, answered at once for the child this group is evaluating.
+  int indexOfChild(const QvNode* child) const;
 
  protected:
   // The children of evaluate(): in place, or copied under `copy`.
   void evaluateChildren(QvGroupNode* target, bool copy);
-  // Writes every child, in order.
-  void writeChildren(SceneWriter& out);
+  // Writes the children from index `first` on, in order.
+  void writeChildren(SceneWriter& out, int first = 0);
   void bindChildren();
 
   QvNodeList children;
+
+ private:
+  // The index of the child evaluateChildren is visiting; a hint only.
+  int evaluatingIndex_ = -1;
 };
 
 }  // namespace lumeric

@@ -27,6 +27,15 @@ class QvNodeList {
     if (node != nullptr) node->ref();
     list_.insert(node, index);
   }
+  // Inserts every node of `nodes`, in order, before `index` (-1 or past
+  // the end appends), taking a reference on each; one move of the later
+  // entries serves them all.
+  void insertAll(const QvNodeList& nodes, int index) {
+    for (int i = 0; i < nodes.getLength(); ++i) {
+      if (nodes.get(i) != nullptr) nodes.get(i)->ref();
+    }
+    list_.insert(nodes.list_.items(), nodes.getLength(), index);
+  }
   int find(const QvNode* node) const { return list_.find(node); }
   // Releases the nodes from `length` on.
   void truncate(int length) {

@@ -1,6 +1,7 @@
 set(LUMERIC_SCENE_SOURCES
   src/scene/FieldExpression.cpp
   src/scene/NodeVisit.cpp
+  src/scene/QvDeclaredFieldsNode.cpp
   src/scene/QvDefTable.cpp
   src/scene/QvField.cpp
   src/scene/QvFieldTable.cpp

@@ -1,3 +1,4 @@
 set(LUMERIC_NODE_TESTS
+  nodes/ControlNodesTest.cpp
   nodes/NodeCopyTest.cpp
 )

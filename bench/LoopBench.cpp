@@ -1,0 +1,118 @@
+// The whole translation of a scene whose LOOP repeats a DEF-named child and
+// a child with a computed value, between two siblings, for 10^4, 10^5 and
+// 10^6 repetitions: wall time, peak resident memory, and the ratio of the
+// time for 10n repetitions to the time for n (linear cost gives about 10).
+//
+// Each size runs in its own child process, so that the peak memory of one
+// size is not that of a larger one.  The output goes to /dev/null.
+//
+//   lumeric_bench_loop [COUNT...]
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "driver/Translation.h"
+#include "lumeric/lumeric.h"
+
+namespace {
+
+// Counts what the translation posts, so that a broken scene shows.
+class CountingView : public CReportErrorView {
+ public:
+  int post(const char*, int flag) override {
+    errors += flag == 1 ? 1 : 0;
+    return 0;
+  }
+  int errors = 0;
+};
+
+std::string writeScene(long count) {
+  char path[] = "/tmp/lumeric-loop-bench-XXXXXX.vlm";
+  int fd = mkstemps(path, 4);
+  if (fd < 0) return std::string();
+  FILE* file = fdopen(fd, "w");
+  std::fprintf(file,
+               "#VRML V1.0 ascii\n"
+               "Separator {\n"
+               "\tInfo { string \"before\" }\n"
+               "\tLOOP {\n"
+               "\t\tfields [ SFFloat start, SFFloat end, SFFloat position ]\n"
+               "\t\tstart 0 end %ld position 0\n"
+               "\t\tDEF Mark Cube { width 0.5 }\n"
+               "\t\tTranslation { translation =(position*0.001, position*position*0.5, 1-position) }\n"
+               "\t}\n"
+               "\tInfo { string \"after\" }\n"
+               "}\n",
+               count);
+  std::fclose(file);
+  return path;
+}
+
+// Wall seconds of one translation, measured in this (child) process.
+int measure(long count, const char* reportPath) {
+  std::string scene = writeScene(count);
+  FILE* sink = std::fopen("/dev/null", "w");
+  if (scene.empty() || sink == nullptr) return 1;
+  CountingView view;
+  lumeric::OutputOverride output;
+  output.stream = sink;
+  auto start = std::chrono::steady_clock::now();
+  lumeric::translateScene(const_cast<char*>(scene.c_str()), &view, nullptr, nullptr, &output);
+  double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  std::fclose(sink);
+  std::remove(scene.c_str());
+  FILE* report = std::fopen(reportPath, "w");
+  if (report == nullptr) return 1;
+  std::fprintf(report, "%.9f\n", seconds);
+  std::fclose(report);
+  return view.errors == 0 ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  std::vector<long> counts;
+  for (int k = 1; k < argc; ++k) counts.push_back(std::atol(argv[k]));
+  if (counts.empty()) counts = {10000, 100000, 1000000};
+  std::printf("%12s %10s %10s %14s\n", "repetitions", "seconds", "peak MB", "time 10n / n");
+  std::fflush(stdout);
+  char reportPath[] = "/tmp/lumeric-loop-bench-XXXXXX";
+  int fd = mkstemp(reportPath);
+  if (fd < 0) return 1;
+  close(fd);
+  int failures = 0;
+  double previous = 0;
+  long previousCount = 0;
+  for (long count : counts) {
+    pid_t child = fork();
+    if (child == 0) _exit(measure(count, reportPath));
+    int status = 0;
+    rusage usage{};
+    if (child < 0 || wait4(child, &status, 0, &usage) < 0 || !WIFEXITED(status) || WEXITSTATUS(status) != 0) {
+      std::printf("%12ld %10s\n", count, "failed");
+      ++failures;
+      continue;
+    }
+    double seconds = 0;
+    FILE* report = std::fopen(reportPath, "r");
+    if (report == nullptr || std::fscanf(report, "%lf", &seconds) != 1) ++failures;
+    if (report != nullptr) std::fclose(report);
+    std::printf("%12ld %10.3f %10.1f", count, seconds, static_cast<double>(usage.ru_maxrss) / 1024.0);
+    if (previousCount > 0 && count == previousCount * 10) {
+      std::printf(" %14.2f", seconds / previous);
+    }
+    std::printf("\n");
+    std::fflush(stdout);
+    previous = seconds;
+    previousCount = count;
+  }
+  std::remove(reportPath);
+  return failures == 0 ? 0 : 1;
+}
