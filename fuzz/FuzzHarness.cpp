@@ -32,6 +32,12 @@ const char* writeScene(const std::string& text) {
   return kSceneName;
 }
 
-void confineNextRun() { theRun.limits.confine = true; }
+void limitNextRun() {
+  theRun.limits.confine = true;
+  // The default budgets take seconds to spend under the sanitizers; the
+  // fuzzer looks for faults, not for the budgets' size.
+  theRun.limits.maxEvaluations = 100000;
+  theRun.limits.maxNodes = 100000;
+}
 
 }  // namespace lumeric

@@ -13,8 +13,9 @@ namespace lumeric {
 // Writes `text` to the scene file in the scratch directory (made and
 // entered on first use) and returns its name.
 const char* writeScene(const std::string& text);
-// Confines the next run to the scratch directory.
-void confineNextRun();
+// Confines the next run to the scratch directory and gives it budgets
+// small enough to spend in well under a second.
+void limitNextRun();
 
 }  // namespace lumeric
 

@@ -8,7 +8,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   std::string path = lumeric::writeScene(std::string(reinterpret_cast<const char*>(data), size));
   char outputName[256];
   char directory[] = "";
-  lumeric::confineNextRun();
+  lumeric::limitNextRun();
   ParseVRMLLumeric(&path[0], nullptr, directory, outputName);
   return 0;
 }

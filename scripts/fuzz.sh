@@ -27,8 +27,9 @@ for target in "${targets[@]}"; do
   mkdir -p "$corpus"
   limit=(-max_total_time="$time")
   [ -n "${FUZZ_RUNS:-}" ] && limit=(-runs="$FUZZ_RUNS")
-  echo "== $target"
-  "$build/lumeric_fuzz_$target" "$corpus" "$seeds" -dict="$root/fuzz/lumeric.dict" -jobs=1 -workers=1 \
+  echo "== $target (log: $build/fuzz-0.log)"
+  cd "$build"
+  "$build/fuzz/lumeric_fuzz_$target" "$corpus" "$seeds" -dict="$root/fuzz/lumeric.dict" -jobs=1 -workers=1 \
     -timeout=10 -rss_limit_mb=2048 -max_len=4096 -print_final_stats=1 "${limit[@]}" \
     -artifact_prefix="$build/artifacts/$target-"
 done
