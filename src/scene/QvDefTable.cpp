@@ -4,7 +4,13 @@
 
 namespace lumeric {
 
+QvDefTable::~QvDefTable() {
+  for (QvNode* node : held_) node->unref();
+}
+
 bool QvDefTable::addName(QvAtom name, QvNode* node) {
+  node->ref();
+  held_.push_back(node);
   void* previous = nullptr;
   bool wasDefined = table_.find(name.key(), previous);
   table_.enter(name.key(), node);
