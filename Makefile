@@ -7,7 +7,7 @@ RELEASE_DIR := build/release
 TEST_DIR := build/test
 DEMO_SCENE ?= examples/expressions.vlm
 
-.PHONY: all deps release demo test bench bench-generators gallery clean
+.PHONY: all deps release demo test bench bench-generators gallery fuzz clean
 
 all: release
 
@@ -25,6 +25,12 @@ test: deps
 	cmake -S . -B $(TEST_DIR) -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g" -DLUMERIC_SANITIZE=ON >/dev/null
 	cmake --build $(TEST_DIR) -j $(JOBS)
 	cd $(TEST_DIR) && ctest --output-on-failure -j $(JOBS)
+
+# Builds the fuzz targets with clang's libFuzzer in build/fuzz and runs each
+# for FUZZ_TIME seconds.
+FUZZ_TIME ?= 180
+fuzz: deps
+	FUZZ_TIME=$(FUZZ_TIME) scripts/fuzz.sh
 
 bench: release
 	bench/run.sh $(RELEASE_DIR)

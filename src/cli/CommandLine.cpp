@@ -1,6 +1,8 @@
 #include "cli/CommandLine.h"
 
 #include <cctype>
+#include <cerrno>
+#include <cstdlib>
 #include <cstring>
 
 namespace lumeric {
@@ -35,6 +37,14 @@ const char kUsageText[] =
     "                 input and every file INCLUDE read (not with --check or -o -)\n"
     "  --message-format FORMAT\n"
     "                 how messages are printed: plain (the default), gnu or json\n"
+    "  --max-evaluations N\n"
+    "                 evaluate at most N field references made from inside other\n"
+    "                 evaluations (default 10000000); further references read as 0\n"
+    "  --max-nodes N  make at most N nodes by copying (LOOP, SELECT, USE; default\n"
+    "                 10000000); the copies made so far are written\n"
+    "  --confine      let INCLUDE read and OUTPUT_TO write only regular files in\n"
+    "                 INPUT's directory and below it (for scenes from untrusted\n"
+    "                 sources)\n"
     "  -h, --help     show this text\n"
     "  --version      show the version\n"
     "\n"
@@ -85,6 +95,20 @@ bool takeValue(int argc, char** argv, int& i, std::string& value, std::string& e
     return false;
   }
   value = argv[++i];
+  return true;
+}
+
+// A count option: a whole number from 1 up.
+bool takeCount(int argc, char** argv, int& i, long& count, std::string& error) {
+  std::string value;
+  if (!takeValue(argc, argv, i, value, error)) return false;
+  char* end = nullptr;
+  errno = 0;
+  count = std::strtol(value.c_str(), &end, 10);
+  if (value.empty() || *end != '\0' || errno != 0 || count < 1) {
+    error = std::string("option ") + argv[i - 1] + " needs a whole number from 1 up, not \"" + value + "\"";
+    return false;
+  }
   return true;
 }
 
@@ -146,6 +170,12 @@ bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& err
           error = "unknown message format \"" + name + "\" (use plain, gnu or json)";
           return false;
         }
+      } else if (arg == "--max-evaluations") {
+        if (!takeCount(argc, argv, i, line.limits.maxEvaluations, error)) return false;
+      } else if (arg == "--max-nodes") {
+        if (!takeCount(argc, argv, i, line.limits.maxNodes, error)) return false;
+      } else if (arg == "--confine") {
+        line.limits.confine = true;
       } else if (arg == "-W") {
         std::string which;
         if (!takeValue(argc, argv, i, which, error)) return false;

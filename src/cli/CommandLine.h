@@ -7,6 +7,7 @@
 
 #include "cli/MessageFormat.h"
 #include "driver/FieldOverrides.h"
+#include "core/RunState.h"
 
 namespace lumeric {
 
@@ -23,6 +24,7 @@ struct CommandLine {
   MessageFormat messageFormat = MessageFormat::kPlain;  // --message-format
   std::vector<FieldOverride> overrides;  // -D, in order
   std::string depsFile;                  // --deps; empty: none
+  RunLimits limits;  // --max-evaluations, --max-nodes, --confine
 };
 
 // Parses argv.  On a usage error returns false with `error` set.

@@ -49,6 +49,7 @@ int main(int argc, char** argv) {
   }
 
   gWarn = line.warnings;
+  theRun.limits = line.limits;
   StderrView view(line.messageFormat);
   std::vector<char> input(line.input.begin(), line.input.end());
   input.push_back('\0');

@@ -27,8 +27,16 @@ void RunState::reset() {
   nameRegistry = nullptr;
   QvAtomPool::freePool();
   for (int k = 0; k < releaseCount_; ++k) releases_[k]();
+  pendingOutput.abandon();
+  outputWriteError = 0;
   outputFile = nullptr;
   outputFileName[0] = '\0';
+  limits = RunLimits();
+  confinedTo.clear();
+  nestedEvaluations = 0;
+  evaluationBudgetSpent = false;
+  copiedNodes = 0;
+  nodeBudgetSpent = false;
   sceneMayChooseOutput = true;
   extensionsEnabled = true;
   defNames = nullptr;
@@ -52,9 +60,12 @@ void removeName(QvNode* node, const char* text) {
 double roundToPrecision(double v) {
   double q = precisionQuantum;
   if (!(q > 0)) return v;
-  double steps = v / q;
+  // Values too large for the step keep their own digits rather than
+  // overflow to infinity.
+  const double steps = v / q;
   if (!std::isfinite(steps)) return v;
-  return std::round(steps) * q;
+  const double r = std::round(steps) * q;
+  return std::isfinite(r) ? r : v;
 }
 
 bool warningsEnabled(unsigned long bit) { return (gWarn & bit) != 0; }

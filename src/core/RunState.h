@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+#include "core/OutputFile.h"
+
 namespace lumeric {
 
 class FieldExpression;
@@ -26,6 +28,19 @@ constexpr int kMaxNodeDepth = 63;
 // How deep field references may nest parses of other fields' expressions.
 constexpr int kMaxNestedParses = 200;
 
+// What one run may do.  The defaults are far beyond any real scene; they
+// stop scenes that would run for hours or exhaust memory.  A caller (the
+// command line) may change them before a run; the run's end restores them.
+struct RunLimits {
+  // Evaluations started from inside other evaluations (field references).
+  long maxEvaluations = 10000000;
+  // Nodes made by copying (LOOP, SELECT, USE).
+  long maxNodes = 10000000;
+  // INCLUDE reads and OUTPUT_TO writes only regular files inside the
+  // directory of the input.
+  bool confine = false;
+};
+
 class RunState {
  public:
   RunState() = default;
@@ -40,8 +55,15 @@ class RunState {
   // the same operation again changes nothing.
   void atEndOfRun(void (*release)());
 
+  RunLimits limits;
+
   // The output scene file; OUTPUT_TO may open it while the scene is read.
+  // It is the stream of `pendingOutput`, or a stream the caller gave.
   FILE* outputFile = nullptr;
+  // The output file being written, until it replaces its target.
+  OutputFile pendingOutput;
+  // The system error number of the first write to the output that failed.
+  int outputWriteError = 0;
   // The name OUTPUT_TO gave the output file.
   char outputFileName[kOutputNameSize] = "";
   // Whether OUTPUT_TO may open a file in this run (not when the caller
@@ -53,10 +75,21 @@ class RunState {
   // The DEF table of the input being read and evaluated; it serves name
   // look-ups and names the copies of named nodes.
   QvDefTable* defNames = nullptr;
-  // Every named node, by name: a QvPointerList of nodes per name.
+  // Every named node, by name.
   QvNameTable* nameRegistry = nullptr;
   // When set, receives the name of every file INCLUDE reads.
   std::vector<std::string>* includedFiles = nullptr;
+  // With limits.confine: the resolved directory of the input, inside which
+  // files may be read and written.
+  std::string confinedTo;
+  // Evaluations started from inside other evaluations, and whether the
+  // budget's message has been posted.
+  long nestedEvaluations = 0;
+  bool evaluationBudgetSpent = false;
+  // Nodes made by copying, and whether the budget's message has been
+  // posted.
+  long copiedNodes = 0;
+  bool nodeBudgetSpent = false;
   // How deep the node reader is nested now.
   int readingDepth = 0;
   // The parses of field expressions in progress, innermost last.
@@ -85,8 +118,8 @@ void removeName(QvNode* node, const char* text);
 extern double precisionQuantum;
 
 // `v` rounded to the nearest multiple of precisionQuantum (halves away from
-// zero); unchanged when the quantum is 0 or less, or when v / quantum is
-// beyond the doubles (rounding never makes a finite number infinite).
+// zero); unchanged when the quantum is 0 or less, and when the value is
+// too large for the step (rounding never makes a finite value infinite).
 double roundToPrecision(double v);
 
 // The bits of gWarn (the host's warning switch, lumeric.h).

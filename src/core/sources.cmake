@@ -1,7 +1,9 @@
 set(LUMERIC_CORE_SOURCES
   src/core/AtomKeyedTable.cpp
   src/core/CharacterClasses.cpp
+  src/core/FileAccess.cpp
   src/core/NumberText.cpp
+  src/core/OutputFile.cpp
   src/core/QvAtom.cpp
   src/core/QvAtomPool.cpp
   src/core/QvContext.cpp

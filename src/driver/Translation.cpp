@@ -7,6 +7,8 @@
 
 #include <strings.h>
 
+#include "core/FileAccess.h"
+#include "core/OutputFile.h"
 #include "core/QvContext.h"
 #include "core/QvNameTable.h"
 #include "core/RunState.h"
@@ -24,17 +26,21 @@ namespace {
 constexpr char kDefaultOutputName[] = "output.wrl";
 constexpr size_t kMaxJoinedPath = 511;
 
-// Opens the input as given, else once more under `directory`.
-FILE* openInput(const char* inputPath, const char* directory, int& errorNumber) {
-  errno = 0;
-  FILE* file = std::fopen(inputPath, "r");
-  errorNumber = errno;
+// Opens the input as given, else once more under `directory`; `opened` is
+// the path that was opened.
+FILE* openInput(const char* inputPath, const char* directory, int& errorNumber, std::string& opened) {
+  opened = inputPath;
+  FILE* file = openForReading(inputPath, errorNumber);
   if (file != nullptr || directory == nullptr) return file;
   std::string joined = std::string(directory) + inputPath;
   if (joined.size() > kMaxJoinedPath) return nullptr;
-  errno = 0;
-  file = std::fopen(joined.c_str(), "r");
-  if (file == nullptr) errorNumber = errno;
+  int joinedError = 0;
+  file = openForReading(joined.c_str(), joinedError);
+  if (file == nullptr) {
+    errorNumber = joinedError;
+  } else {
+    opened = joined;
+  }
   return file;
 }
 
@@ -53,17 +59,33 @@ QvNode* readRoot(QvSceneInput& input, const char* inputPath) {
   return root;
 }
 
-// Closes the output file of the run: "Output file not closed" when that
-// fails.  A stream the caller gave is only flushed.
-void closeOutput(const OutputOverride* output) {
-  FILE*& outputFile = theRun.outputFile;
-  if (outputFile == nullptr) return;
-  if (output != nullptr && output->stream == outputFile) {
-    std::fflush(outputFile);
-  } else if (std::fclose(outputFile) != 0) {
-    theContext.reportInFile("Output file not closed");
+// Closes the output of the run.  A file replaces its target only when all
+// of it was written; a stream the caller gave is only flushed.  Either way a
+// failed write is reported.
+void closeOutput(const OutputOverride* output, int writeError) {
+  FILE* stream = theRun.outputFile;
+  theRun.outputFile = nullptr;
+  if (stream == nullptr) return;
+  int errorNumber = 0;
+  if (theRun.pendingOutput.isOpen()) {
+    const std::string target = theRun.pendingOutput.target();
+    switch (theRun.pendingOutput.commit(writeError, errorNumber)) {
+      case OutputFile::kReplaced:
+        return;
+      case OutputFile::kCloseFailed:
+        theContext.reportInFile("Output file not closed");
+        return;
+      case OutputFile::kWriteFailed:
+        theContext.reportInFile("Could not write %s - Error # %d", target.c_str(), errorNumber);
+        return;
+    }
   }
-  outputFile = nullptr;
+  errno = 0;
+  if (writeError == 0 && (std::fflush(stream) != 0 || std::ferror(stream))) writeError = errno != 0 ? errno : EIO;
+  if (writeError != 0) {
+    const char* name = output != nullptr && output->path != nullptr ? output->path : "standard output";
+    theContext.reportInFile("Could not write %s - Error # %d", name, writeError);
+  }
 }
 
 // Chooses and opens the output; returns its name.
@@ -73,19 +95,30 @@ const char* openOutput(const OutputOverride* output) {
     outputFile = output->stream;
     return output->path != nullptr ? output->path : "-";
   }
+  int errorNumber = 0;
   if (output != nullptr && output->path != nullptr) {
-    errno = 0;
-    outputFile = std::fopen(output->path, "w+");
+    outputFile = theRun.pendingOutput.open(output->path, errorNumber);
     if (outputFile == nullptr) {
-      theContext.reportInFile("Could not open %s for writing - Error # %d", output->path, errno);
+      theContext.reportInFile("Could not open %s for writing - Error # %d", output->path, errorNumber);
     }
     return output->path;
   }
   if (outputFile == nullptr) {
-    outputFile = std::fopen(kDefaultOutputName, "w+");
+    outputFile = theRun.pendingOutput.open(kDefaultOutputName, errorNumber);
     return kDefaultOutputName;
   }
   return theRun.outputFileName;
+}
+
+// The input path as the output's comment line shows it: each control
+// character becomes "?", so that no path can add lines to the output.
+std::string printablePath(const char* path) {
+  std::string text(path);
+  for (char& c : text) {
+    const unsigned char byte = static_cast<unsigned char>(c);
+    if (byte < 0x20 || byte == 0x7f) c = '?';
+  }
+  return text;
 }
 
 void copyName(char* target, const char* name) {
@@ -108,12 +141,18 @@ int runTranslation(const char* inputPath, CReportErrorView* view, const char* di
   theContext.setView(view);
   if (inputPath == nullptr) inputPath = "";
   int errorNumber = 0;
-  FILE* inputFile = openInput(inputPath, directory, errorNumber);
+  std::string opened;
+  FILE* inputFile = openInput(inputPath, directory, errorNumber, opened);
   if (inputFile == nullptr) {
     reportOpenFailure(inputPath, directory, errorNumber);
-    closeOutput(output);
+    closeOutput(output, 0);
     theRun.reset();
     return 0;
+  }
+  if (theRun.limits.confine) {
+    theRun.confinedTo = resolvedDirectoryOf(opened.c_str());
+    // An input whose directory cannot be resolved confines to nothing.
+    if (theRun.confinedTo.empty()) theRun.confinedTo = "/nonexistent/";
   }
   if (theRun.nameRegistry == nullptr) theRun.nameRegistry = new QvNameTable();
   if (additions != nullptr) theRun.includedFiles = &additions->includedFiles;
@@ -132,7 +171,7 @@ int runTranslation(const char* inputPath, CReportErrorView* view, const char* di
     theRun.defNames = nullptr;
   }
   std::fclose(inputFile);
-  closeOutput(output);
+  closeOutput(output, theRun.outputWriteError);
   theRun.reset();
   return result;
 }
@@ -166,8 +205,10 @@ int translateScene(const char* inputPath, CReportErrorView* view, const char* di
       root->bindParents();
       SceneWriter out(theRun.outputFile);
       out.text("#VRML V1.0 ascii\n\n");
-      out.format("#Generated by VRMLLumeric from %s\n\n", inputPath);
+      out.format("#Generated by VRMLLumeric from %s\n\n", printablePath(inputPath).c_str());
       root->write(out);
+      out.flush();
+      theRun.outputWriteError = out.writeError();
     });
   });
 }

@@ -16,6 +16,16 @@ NestedParse::~NestedParse() {
 bool NestedParse::anyInProgress() { return theRun.parseDepth > 0; }
 
 bool NestedParse::admit(FieldExpression* expression) {
+  // Nothing is cached, so references to references can take exponential
+  // work; past the budget no further nested evaluation starts.
+  if (theRun.parseDepth > 0 && ++theRun.nestedEvaluations > theRun.limits.maxEvaluations) {
+    if (theRun.evaluationBudgetSpent) return false;
+    theRun.evaluationBudgetSpent = true;
+    return reportAtExpression(expression,
+                              "Error: More than %ld evaluations of field references - further references "
+                              "read as 0 (the budget is raised with --max-evaluations)",
+                              theRun.limits.maxEvaluations);
+  }
   for (int k = 0; k < theRun.parseDepth; ++k) {
     if (theRun.parsesInProgress[k] == expression) return reportAtExpression(expression, "Error: Circular reference");
   }

@@ -8,6 +8,9 @@
 // read as "0", as textFor() reads a circular text.  Every nested parse also
 // costs C stack, so a chain of references deeper than kMaxNestedParses is cut
 // the same way, with its own message, long before the stack could run out.
+// The evaluations that start inside others are counted; past the run's
+// budget (theRun.limits.maxEvaluations) every further one is cut, and the
+// first of them posts the budget's message.
 #ifndef LUMERIC_EXPR_NESTEDPARSE_H
 #define LUMERIC_EXPR_NESTEDPARSE_H
 

@@ -1,5 +1,6 @@
 #include "fields/FieldSupport.h"
 
+#include <cmath>
 #include <cstring>
 #include <string>
 
@@ -13,6 +14,12 @@ double numberOf(FieldExpression& expr) {
   double value = 0;
   evaluateScalar(&expr, &value);
   return value;
+}
+
+double writable(double v, FieldExpression* at) {
+  if (std::isfinite(v)) return v;
+  reportAtExpression(at, "Number is not finite");
+  return 0;
 }
 
 void numbersOf(FieldExpression* exprs, int count, double* out) {

@@ -137,10 +137,13 @@ void MFNumberField<Derived, Traits>::write(SceneWriter& out) {
   if (isExpression) {
     std::vector<double> numbers;
     expand(numbers);
-    writeItems(out, static_cast<int>(numbers.size()), [&numbers](int k) { return numbers[static_cast<size_t>(k)]; });
+    // The expanded numbers no longer tell their element; the list's first
+    // expression stands for all of them in messages.
+    writeItems(out, static_cast<int>(numbers.size()),
+               [&](int k) { return writable(numbers[static_cast<size_t>(k)], element(0)); });
     return;
   }
-  writeItems(out, num, [this](int k) { return numberAt(k, 0); });
+  writeItems(out, num, [this](int k) { return writable(numberAt(k, 0), element(k)); });
 }
 
 // One number: " %g\n".  Up to kItemsPerLine: " [", the items " %g," and the

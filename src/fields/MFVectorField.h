@@ -177,13 +177,15 @@ void MFVectorField<Derived, Traits>::write(SceneWriter& out) {
   if (isExpression) {
     std::vector<double> rows;
     expand(rows);
-    writeRows(out, static_cast<int>(rows.size() / kWidth), [&rows](int r, double* numbers) {
-      for (int k = 0; k < kWidth; ++k) numbers[k] = rows[static_cast<size_t>(r) * kWidth + k];
+    // The expanded rows no longer tell their element; the list's first
+    // expression stands for all of them in messages.
+    writeRows(out, static_cast<int>(rows.size() / kWidth), [&](int r, double* numbers) {
+      for (int k = 0; k < kWidth; ++k) numbers[k] = writable(rows[static_cast<size_t>(r) * kWidth + k], element(0));
     });
     return;
   }
   writeRows(out, num, [this](int r, double* numbers) {
-    for (int k = 0; k < kWidth; ++k) numbers[k] = numberAt(r, k);
+    for (int k = 0; k < kWidth; ++k) numbers[k] = writable(numberAt(r, k), &element(r)[k]);
   });
 }
 

@@ -125,7 +125,11 @@ bool readScene(QvSceneInput* in, QvNode*& root) {
   bool ok = readNode(in, root);
   if (ok && root == nullptr && !in->eof()) {
     char c;
-    if (in->getChar(c)) return readError(in, "Extra characters ('%c') found in input", c);
+    if (in->getChar(c)) {
+      // A NUL byte would end the message text; it is shown as \0.
+      if (c == '\0') return readError(in, "Extra characters ('\\0') found in input");
+      return readError(in, "Extra characters ('%c') found in input", c);
+    }
   }
   // After a read error the root, when there is one, keeps what was read
   // before it.

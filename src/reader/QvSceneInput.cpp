@@ -23,6 +23,18 @@ constexpr size_t kHeaderKeep = 255;
 // of the integer kinds needs more digits, and the value saturates anyway.
 constexpr size_t kMaxIntegerDigits = 40;
 
+// A line end was read.  The count stops at the largest line number rather
+// than overflow; messages then name that line.
+void countLine(QvSceneInput::State& s) {
+  if (s.line < INT_MAX) ++s.line;
+}
+
+// Adds a character of a string unless the string is full; the rest of a
+// longer string is read and dropped, so no input can fill the memory.
+void keep(std::string& text, char c) {
+  if (text.size() < QvSceneInput::kMaxStringLength) text += c;
+}
+
 bool isAsciiLower(char c) { return c >= 'a' && c <= 'z'; }
 bool isAsciiUpper(char c) { return c >= 'A' && c <= 'Z'; }
 bool isHexDigit(char c) { return std::isxdigit(static_cast<unsigned char>(c)) != 0; }
@@ -88,7 +100,7 @@ bool QvSceneInput::checkHeader() {
     std::string kept(1, '#');
     while (readRaw(c)) {
       if (c == '\n') {
-        ++s.line;
+        countLine(s);
         break;
       }
       if (kept.size() < kHeaderKeep) kept += c;
@@ -152,12 +164,12 @@ bool QvSceneInput::skipWhiteSpace() {
   char c;
   while (getChar(c)) {
     if (c == '\n') {
-      ++s.line;
+      countLine(s);
     } else if (c == '#') {
       bool closed = false;
       while (getChar(c)) {
         if (c == '\n') {
-          ++s.line;
+          countLine(s);
           closed = true;
           break;
         }
@@ -227,7 +239,7 @@ bool QvSceneInput::readString(std::string& text) {
         putBackChar(c);
         break;
       }
-      text += c;
+      keep(text, c);
     }
     return true;
   }
@@ -236,18 +248,18 @@ bool QvSceneInput::readString(std::string& text) {
     if (c == '\\') {
       char next;
       if (!getChar(next)) {
-        text += c;
+        keep(text, c);
         break;
       }
       if (next == '"') {
-        text += '"';
+        keep(text, '"');
         continue;
       }
       putBackChar(next);
     } else if (c == '\n') {
-      ++state_->line;
+      countLine(*state_);
     }
-    text += c;
+    keep(text, c);
   }
   return true;
 }
@@ -278,7 +290,7 @@ bool QvSceneInput::readValueText(FieldExpression& expr, QvNode* node) {
     }
     if (!getChar(c)) break;
     if (c == '\n') {
-      ++state_->line;
+      countLine(*state_);
       break;
     }
     bool balanced = openParens == closeParens;
@@ -288,7 +300,7 @@ bool QvSceneInput::readValueText(FieldExpression& expr, QvNode* node) {
     }
     if (c == '\\') {
       if (!getChar(c)) break;
-      if (c == '\n') ++state_->line;
+      if (c == '\n') countLine(*state_);
       text[length++] = c;
       continue;
     }

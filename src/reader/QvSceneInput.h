@@ -24,6 +24,7 @@ class QvSceneInput {
  public:
   static constexpr int kMaxNameLength = 255;
   static constexpr int kMaxValueText = 511;
+  static constexpr size_t kMaxStringLength = 65536;
   static constexpr char kEndOfFile = static_cast<char>(255);
 
   // Name kinds of readName.
@@ -88,7 +89,8 @@ class QvSceneInput {
   // A name of the given kind after white space; an empty atom when the
   // first character does not qualify.  At most 255 characters are kept.
   bool readName(QvAtom& name, NameKind kind);
-  // A quoted or unquoted string after white space.
+  // A quoted or unquoted string after white space; at most
+  // kMaxStringLength characters are kept, the rest is read and dropped.
   bool readString(std::string& text);
   // The raw text of one value after white space, recorded in `expr` with the
   // current line and `node`.  Fails only at the end of the file.
@@ -97,8 +99,10 @@ class QvSceneInput {
   bool readShort(int16_t& value);
   bool readUnsigned(uint32_t& value);
 
+  // The line being read; it stays at INT_MAX once it gets there.
   int getLine() const;
-  // Counts the lines from `line` on, as if the input were there.
+  // Counts the lines from `line` on, as if the input were there (also lets
+  // tests reach the end of the count without reading billions of lines).
   void setLine(int line);
   bool isUsable() const;
 

@@ -1,5 +1,6 @@
 #include "scene/QvGroupNode.h"
 
+#include "scene/CopyBudget.h"
 #include "scene/NodeVisit.h"
 #include "writer/SceneWriter.h"
 
@@ -28,6 +29,7 @@ int QvGroupNode::indexOfChild(const QvNode* child) const {
 void QvGroupNode::evaluate(QvGroupNode* parentGroup, bool copy) {
   NodeVisit visit(this);
   if (copy) {
+    if (!admitCopy(this)) return;
     QvGroupNode* duplicate = static_cast<QvGroupNode*>(newInstance());
     if (duplicate != nullptr) {
       QvNodeRef keep(duplicate);

@@ -6,6 +6,7 @@
 #include "core/RunState.h"
 #include "scene/FieldExpression.h"
 #include "scene/NodeVisit.h"
+#include "scene/CopyBudget.h"
 #include "scene/QvDefTable.h"
 #include "scene/QvField.h"
 #include "scene/QvFieldTable.h"
@@ -88,7 +89,7 @@ void QvNode::initCopy(QvNode* copy) {
 
 void QvNode::evaluateLeaf(QvGroupNode* parentGroup, bool copy) {
   NodeVisit visit(this);
-  if (copy) {
+  if (copy && admitCopy(this)) {
     QvNode* duplicate = newInstance();
     if (duplicate != nullptr) {
       initCopy(duplicate);

@@ -1,4 +1,5 @@
 set(LUMERIC_SCENE_SOURCES
+  src/scene/CopyBudget.cpp
   src/scene/FieldExpression.cpp
   src/scene/NodeVisit.cpp
   src/scene/QvDeclaredFieldsNode.cpp

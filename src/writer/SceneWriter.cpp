@@ -1,5 +1,6 @@
 #include "writer/SceneWriter.h"
 
+#include <cerrno>
 #include <cmath>
 #include <cstdarg>
 #include <cstring>
@@ -14,7 +15,7 @@ SceneWriter& SceneWriter::text(const char* s) {
   size_t length = std::strlen(s);
   if (length > sizeof buffer_ / 2) {
     flush();
-    std::fwrite(s, 1, length, stream_);
+    put(s, length);
     return *this;
   }
   makeRoom(length);
@@ -30,6 +31,9 @@ SceneWriter& SceneWriter::character(char c) {
 }
 
 SceneWriter& SceneWriter::number(double v) {
+  // "inf" and "nan" load in no reader; the fields report such a value
+  // before it gets here.
+  if (!std::isfinite(v)) v = 0;
   makeRoom(kNumberTextSize);
   used_ += static_cast<size_t>(formatNumber(buffer_ + used_, v));
   return *this;
@@ -101,8 +105,13 @@ void SceneWriter::closeNode() {
 }
 
 void SceneWriter::flush() {
-  if (used_ > 0) std::fwrite(buffer_, 1, used_, stream_);
+  if (used_ > 0) put(buffer_, used_);
   used_ = 0;
+}
+
+void SceneWriter::put(const char* s, size_t length) {
+  errno = 0;
+  if (std::fwrite(s, 1, length, stream_) != length && writeError_ == 0) writeError_ = errno != 0 ? errno : EIO;
 }
 
 }  // namespace lumeric

@@ -42,7 +42,8 @@ class SceneWriter {
   // Pieces of text, appended as given.
   SceneWriter& text(const char* s);
   SceneWriter& character(char c);
-  // "%g" of the number, exactly as printf writes it.
+  // "%g" of the number, exactly as printf writes it; 0 for infinities and
+  // NaN.
   SceneWriter& number(double v);
   // "%g" of the number rounded to the PRECISION step (roundToPrecision).
   SceneWriter& rounded(double v);
@@ -87,9 +88,14 @@ class SceneWriter {
   template <class WriteItem>
   void list(int count, const ListLayout& layout, WriteItem writeItem);
 
+  // Hands the collected text to the stream.
   void flush();
+  // The system error number of the first write to the stream that failed,
+  // or 0.
+  int writeError() const { return writeError_; }
 
  private:
+  void put(const char* s, size_t length);
   void makeRoom(size_t length) {
     if (used_ + length > sizeof buffer_) flush();
   }
@@ -98,6 +104,7 @@ class SceneWriter {
   FILE* stream_;
   int level_ = 0;
   size_t used_ = 0;
+  int writeError_ = 0;
   char buffer_[4096];
 };
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <string>
 
 #include "core/QvContext.h"
@@ -150,6 +151,19 @@ TEST_F(SceneInputTest, StringsQuotedAndUnquoted) {
   EXPECT_EQ(text, "bare{,]x");
 }
 
+TEST_F(SceneInputTest, LongStringsAreReadWholeAndKeptShort) {
+  const std::string word(100000, 'w');
+  TextInput input(kHeader + word + " \"" + word + "\" next");
+  for (int k = 0; k < 2; ++k) {
+    std::string text;
+    ASSERT_TRUE(input->readString(text));
+    EXPECT_EQ(text, word.substr(0, QvSceneInput::kMaxStringLength));
+  }
+  std::string text;
+  ASSERT_TRUE(input->readString(text));
+  EXPECT_EQ(text, "next");
+}
+
 TEST_F(SceneInputTest, IntegersInThreeBases) {
   struct {
     std::string text;
@@ -202,16 +216,53 @@ TEST_F(SceneInputTest, WordsAndCharactersCanBeGivenBack) {
 
 TEST_F(SceneInputTest, TheDefTableFindsTheLatestNode) {
   TextInput input(kHeader);
-  PlainTestNode first;
-  PlainTestNode second;
-  EXPECT_FALSE(input->addName(QvAtom("Box"), &first));
-  EXPECT_TRUE(input->addName(QvAtom("Box"), &second));
-  EXPECT_EQ(input->findName(QvAtom("Box")), &second);
+  PlainTestNode* first = new PlainTestNode;
+  PlainTestNode* second = new PlainTestNode;
+  EXPECT_FALSE(input->addName(QvAtom("Box"), first));
+  EXPECT_TRUE(input->addName(QvAtom("Box"), second));
+  EXPECT_EQ(input->findName(QvAtom("Box")), second);
   EXPECT_EQ(input->findName(QvAtom("Ball")), nullptr);
-  EXPECT_STREQ(first.getName(), "Box");
-  // Renaming both releases their registry entries before the clean-up.
-  first.setName(QvAtom());
-  second.setName(QvAtom());
+  EXPECT_STREQ(first->getName(), "Box");
+}
+
+// A node nobody else holds stays alive while the table has it, the one
+// replaced included, and dies with the table.
+TEST_F(SceneInputTest, TheDefTableKeepsItsNodesAliveUntilItIsDestroyed) {
+  int destroyed = 0;
+  struct CountedNode : PlainTestNode {
+    explicit CountedNode(int& counter) : counter_(counter) {}
+    ~CountedNode() override { ++counter_; }
+    int& counter_;
+  };
+  {
+    TextInput input(kHeader);
+    QvNode* first = new CountedNode(destroyed);
+    QvNode* second = new CountedNode(destroyed);
+    input->addName(QvAtom("Box"), first);
+    first->ref();
+    first->unref();  // what a reader does with a node whose reading failed
+    input->addName(QvAtom("Box"), second);
+    EXPECT_EQ(destroyed, 0);
+    EXPECT_STREQ(first->getName(), "Box");
+  }
+  EXPECT_EQ(destroyed, 2);
+}
+
+TEST_F(SceneInputTest, TheLineCountStopsAtItsLargestValue) {
+  TextInput input(kHeader + "\n\n# comment\n\"a\nb\" x\ny\n\n\nz");
+  input->skipWhiteSpace();
+  input->setLine(INT_MAX - 2);
+  std::string text;
+  ASSERT_TRUE(input->readString(text));
+  EXPECT_EQ(input->getLine(), INT_MAX - 1);
+  ASSERT_TRUE(input->readString(text));
+  QvAtom name;
+  ASSERT_TRUE(input->readName(name, QvSceneInput::kLowerName));
+  EXPECT_STREQ(name.text(), "y");
+  EXPECT_EQ(input->getLine(), INT_MAX);
+  ASSERT_TRUE(input->readName(name, QvSceneInput::kLowerName));
+  EXPECT_STREQ(name.text(), "z");
+  EXPECT_EQ(input->getLine(), INT_MAX);
 }
 
 TEST_F(SceneInputTest, SavedStateComesBackWithItsLineCount) {

@@ -27,6 +27,8 @@ ScratchDir::~ScratchDir() {
 
 std::string ScratchDir::write(const std::string& name, const std::string& content) const {
   std::string full = path_ + "/" + name;
+  size_t slash = name.find_last_of('/');
+  if (slash != std::string::npos) std::system(("mkdir -p '" + path_ + "/" + name.substr(0, slash) + "'").c_str());
   writeFile(full, content);
   return full;
 }
@@ -97,9 +99,10 @@ SceneResult checkText(const std::string& sceneText, const char* fileType, const 
   return result;
 }
 
-CommandResult runLumeric(const std::vector<std::string>& arguments, const std::string& workDir) {
+CommandResult runLumeric(const std::vector<std::string>& arguments, const std::string& workDir,
+                         const std::string& shellSetUp) {
   ScratchDir capture;
-  std::string command = "cd '" + workDir + "' && '" LUMERIC_CLI_PATH "'";
+  std::string command = "cd '" + workDir + "' && " + shellSetUp + "'" LUMERIC_CLI_PATH "'";
   for (const std::string& a : arguments) {
     std::string quoted;
     for (char c : a) {

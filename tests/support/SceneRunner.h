@@ -22,7 +22,8 @@ class ScratchDir {
   ScratchDir(const ScratchDir&) = delete;
   ScratchDir& operator=(const ScratchDir&) = delete;
   const std::string& path() const { return path_; }
-  // Writes `content` to `name` inside the directory; returns the full path.
+  // Writes `content` to `name` inside the directory, making the directories
+  // `name` names; returns the full path.
   std::string write(const std::string& name, const std::string& content) const;
   std::string read(const std::string& name) const;
   bool exists(const std::string& name) const;
@@ -40,13 +41,15 @@ SceneResult translateText(const std::string& sceneText, const std::string& fileN
 // CheckSyntax on `sceneText` with the given file type.
 SceneResult checkText(const std::string& sceneText, const char* fileType, const std::string& fileName = "scene.vlm");
 
-// Runs the lumeric command with `arguments` in `workDir`.
+// Runs the lumeric command with `arguments` in `workDir`; `shellSetUp`
+// (shell commands ending in ";") runs first in the same shell.
 struct CommandResult {
   int status = -1;
   std::string out;
   std::string err;
 };
-CommandResult runLumeric(const std::vector<std::string>& arguments, const std::string& workDir);
+CommandResult runLumeric(const std::vector<std::string>& arguments, const std::string& workDir,
+                         const std::string& shellSetUp = "");
 
 }  // namespace lumeric
 

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "core/FileAccess.h"
 #include "core/QvContext.h"
 #include "core/RunState.h"
 #include "scene/FieldExpression.h"
@@ -23,7 +24,11 @@ bool QvInclude::readInstance(QvSceneInput* in) {
 
 QvNode* QvInclude::includeFile(FieldExpression& nameText, QvSceneInput* in) {
   const char* name = nameText.text() != nullptr ? nameText.text() : "";
-  FILE* file = std::fopen(name, "r");
+  if (const char* refusal = confinementRefusal(name, false)) {
+    return reportAtExpression(&nameText, "Cannot INCLUDE file %s - %s", name, refusal);
+  }
+  int errorNumber = 0;
+  FILE* file = openForReading(name, errorNumber);
   if (file == nullptr) return reportAtExpression(&nameText, "Cannot open INCLUDE file %s", name);
   if (theRun.includedFiles != nullptr) theRun.includedFiles->push_back(name);
   if (!theContext.pushFile(name)) {

@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "scene/CopyBudget.h"
 #include "expr/Term.h"
 #include "nodes/extensions/QvParameters.h"
 #include "reader/NodeReader.h"
@@ -79,6 +80,7 @@ void QvLoop::repeat(const Bounds& bounds, QvGroupNode* target) {
   // every copy goes into its own container.
   QvNodeList made;
   for (double x = bounds.start; x < bounds.end;) {
+    if (!admitCopy(this)) break;
     QvParameters* container = new QvParameters();
     made.append(container);
     variable->value = x;

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <string>
 
+#include "core/FileAccess.h"
 #include "core/RunState.h"
 #include "reader/QvSceneInput.h"
 #include "reader/ReadErrors.h"
@@ -19,7 +20,18 @@ bool QvOutputToStatement::readInstance(QvSceneInput* in) {
     readError(in, "Output file name too long - at most %d characters", kOutputNameSize - 1);
     return true;
   }
-  FILE* file = std::fopen(name.c_str(), "w+");
+  if (const char* refusal = confinementRefusal(name.c_str(), true)) {
+    readError(in, "Cannot OUTPUT_TO file %s - %s", name.c_str(), refusal);
+    return true;
+  }
+  // The output replaces its file only at the end of the run, when the
+  // reading is over; still, a scene never replaces a file it is made of.
+  if (isFileBeingRead(name.c_str())) {
+    readError(in, "Cannot OUTPUT_TO file %s - File is being read", name.c_str());
+    return true;
+  }
+  int errorNumber = 0;
+  FILE* file = theRun.pendingOutput.open(name.c_str(), errorNumber);
   if (file == nullptr) return true;
   theRun.outputFile = file;
   std::memcpy(theRun.outputFileName, name.c_str(), name.size() + 1);

@@ -2,6 +2,7 @@
 
 #include "nodes/QvGroup.h"
 #include "reader/NodeReader.h"
+#include "scene/CopyBudget.h"
 #include "scene/NodeVisit.h"
 
 namespace lumeric {
@@ -9,6 +10,7 @@ namespace lumeric {
 void QvParameters::evaluate(QvGroupNode* parentGroup, bool copy) {
   NodeVisit visit(this);
   if (!copy) return evaluateChildren(this, false);
+  if (!admitCopy(this)) return;
   QvGroup* group = new QvGroup();
   QvNodeRef keep(group);
   // The group takes the name and line; this node's table owns its fields,

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "scene/CopyBudget.h"
 #include "expr/Evaluation.h"
 #include "reader/ReadErrors.h"
 #include "scene/QvGroupNode.h"
@@ -25,7 +26,7 @@ bool QvUseStatement::readInstance(QvSceneInput* in) {
 
 void QvUseStatement::evaluate(QvGroupNode* parentGroup, bool copy) {
   NodeVisit visit(this);
-  if (!copy || parentGroup == nullptr) return;
+  if (!copy || parentGroup == nullptr || !admitCopy(this)) return;
   QvUseStatement* duplicate = new QvUseStatement();
   duplicate->line = line;
   duplicate->expression_ = expression_;

@@ -1,0 +1,21 @@
+#include "scene/CopyBudget.h"
+
+#include "core/RunState.h"
+#include "scene/SceneMessages.h"
+
+namespace lumeric {
+
+bool admitCopy(QvNode* at) {
+  if (theRun.copiedNodes < theRun.limits.maxNodes) {
+    ++theRun.copiedNodes;
+    return true;
+  }
+  if (theRun.nodeBudgetSpent) return false;
+  theRun.nodeBudgetSpent = true;
+  return reportAtNode(at,
+                      "More than %ld nodes made by copying - no further copies are made (the budget is raised "
+                      "with --max-nodes)",
+                      theRun.limits.maxNodes);
+}
+
+}  // namespace lumeric

@@ -1,0 +1,18 @@
+// The budget of nodes a run makes by copying (LOOP, SELECT, USE).  A few
+// lines of scene can ask for billions of copies; past the budget
+// (theRun.limits.maxNodes) no further copy is made and the run ends with
+// what was made.
+#ifndef LUMERIC_SCENE_COPYBUDGET_H
+#define LUMERIC_SCENE_COPYBUDGET_H
+
+namespace lumeric {
+
+class QvNode;
+
+// Counts one copy made while evaluating `at`.  False when the budget is
+// spent; the first refusal posts the budget's message at `at`.
+bool admitCopy(QvNode* at);
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_SCENE_COPYBUDGET_H

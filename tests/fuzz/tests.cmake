@@ -1,0 +1,3 @@
+set(LUMERIC_FUZZ_REGRESSION_TESTS
+  fuzz/FuzzRegressionTest.cpp
+)
