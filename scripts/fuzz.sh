@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Builds the fuzz targets with clang's libFuzzer in build/fuzz and runs each
 # for FUZZ_TIME seconds (default 180), one after the other on one core.
-# The seed corpus is made from tests/scenes/ and examples/; what a target
+# The seed corpus is made from tests/scenes/ and examples/ (the expression
+# target starts from fuzz/expression-seeds/); what a target
 # finds goes to build/fuzz/artifacts/ (keep every crash or hang as a
 # regression file in tests/fuzz/regressions/).
 #   scripts/fuzz.sh [TARGET...]     TARGET: ParseFuzzer CheckFuzzer ExpressionFuzzer
@@ -25,11 +26,15 @@ cp "$root"/tests/fuzz/regressions/* "$seeds"/ 2>/dev/null || true
 for target in "${targets[@]}"; do
   corpus="$build/corpus/$target"
   mkdir -p "$corpus"
+  # The expression target reads one expression from the first line of its
+  # input, so whole scenes make poor seeds for it.
+  targetSeeds="$seeds"
+  [ "$target" = ExpressionFuzzer ] && targetSeeds="$root/fuzz/expression-seeds"
   limit=(-max_total_time="$time")
   [ -n "${FUZZ_RUNS:-}" ] && limit=(-runs="$FUZZ_RUNS")
   echo "== $target (log: $build/fuzz-0.log)"
   cd "$build"
-  "$build/fuzz/lumeric_fuzz_$target" "$corpus" "$seeds" -dict="$root/fuzz/lumeric.dict" -jobs=1 -workers=1 \
+  "$build/fuzz/lumeric_fuzz_$target" "$corpus" "$targetSeeds" -dict="$root/fuzz/lumeric.dict" -jobs=1 -workers=1 \
     -timeout=10 -rss_limit_mb=2048 -max_len=4096 -print_final_stats=1 "${limit[@]}" \
     -artifact_prefix="$build/artifacts/$target-"
 done
