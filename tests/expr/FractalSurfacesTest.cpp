@@ -113,6 +113,14 @@ TEST_F(FractalSurfacesTest, HugeGridsAreRefused) {
   EXPECT_EQ(takeMessages(), std::vector<std::string>{"Cannot make a fractal surface of 100000 by 100000 points"});
   EXPECT_EQ(evaluateTerm(expression("FractalSurfaceIndex(1e6, 1e6)")), nullptr);
   EXPECT_EQ(takeMessages(), std::vector<std::string>{"Cannot make a fractal surface of 1000000 by 1000000 points"});
+  // Thin grids are refused by their longer side: their subdivision costs
+  // the square of that side.
+  EXPECT_EQ(evaluateTerm(expression("FractalSurfaceData(524370, 6, .5)")), nullptr);
+  EXPECT_EQ(takeMessages(), std::vector<std::string>{"Cannot make a fractal surface of 524370 by 6 points"});
+  EXPECT_EQ(evaluateTerm(expression("FractalSurfaceData(3, 4097, 1)")), nullptr);
+  EXPECT_EQ(takeMessages(), std::vector<std::string>{"Cannot make a fractal surface of 3 by 4097 points"});
+  EXPECT_NE(evaluateTerm(expression("FractalSurfaceData(4096, 2, 1)")), nullptr);
+  EXPECT_EQ(takeMessages(), std::vector<std::string>{});
 }
 
 }  // namespace

@@ -12,13 +12,17 @@ namespace lumeric {
 
 namespace {
 
-// Larger grids are refused rather than left to exhaust memory: a 4096 by
-// 4096 terrain is far beyond what a scene shows, and the element counts of
-// both results stay well inside a term's 32-bit counts.
-constexpr int64_t kLargestGrid = int64_t{1} << 24;
+// Grids with more than 4096 points on a side are refused rather than left
+// to exhaust memory or time.  The subdivision below visits on the order of
+// the square of the longer side, not of the number of points, so a thin
+// grid (a million rows of six points) would run for hours; with both sides
+// capped, the visits stay within a few tens of millions and the element
+// counts of both results well inside a term's 32-bit counts.  A terrain of
+// 4096 by 4096 points is far beyond what a scene shows.
+constexpr int kLargestSide = 4096;
 
 bool refuseLargeGrid(int rows, int cols, FieldExpression* at) {
-  if (static_cast<int64_t>(rows) * cols <= kLargestGrid) return false;
+  if (rows <= kLargestSide && cols <= kLargestSide) return false;
   refuseCall(at, "Cannot make a fractal surface of %d by %d points", rows, cols);
   return true;
 }
