@@ -51,13 +51,7 @@ TEST_P(FuzzRegression, RunsThroughBothEntryPoints) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, FuzzRegression, ::testing::ValuesIn(regressionFiles()),
-                         [](const ::testing::TestParamInfo<std::string>& info) {
-                           std::string name = info.param;
-                           for (char& c : name) {
-                             if (!isalnum(static_cast<unsigned char>(c))) c = '_';
-                           }
-                           return name;
-                         });
+                         [](const ::testing::TestParamInfo<std::string>& info) { return testIdFromFileName(info.param); });
 
 }  // namespace
 }  // namespace lumeric

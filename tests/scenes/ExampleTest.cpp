@@ -46,11 +46,7 @@ TEST_P(ExampleTest, TranslatesCleanlyAndLoads) {
 TEST(Examples, AreThere) { EXPECT_GE(discoverExamples().size(), 5u); }
 
 INSTANTIATE_TEST_SUITE_P(Examples, ExampleTest, ::testing::ValuesIn(discoverExamples()),
-                         [](const ::testing::TestParamInfo<std::string>& info) {
-                           std::string id;
-                           for (char c : info.param) id += std::isalnum(static_cast<unsigned char>(c)) ? c : '_';
-                           return id;
-                         });
+                         [](const ::testing::TestParamInfo<std::string>& info) { return testIdFromFileName(info.param); });
 
 }  // namespace
 }  // namespace lumeric

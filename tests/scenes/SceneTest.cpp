@@ -88,11 +88,7 @@ TEST_P(SceneTest, MatchesItsExpectation) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Scenes, SceneTest, ::testing::ValuesIn(discoverScenes()),
-                         [](const ::testing::TestParamInfo<std::string>& info) {
-                           std::string id;
-                           for (char c : info.param) id += std::isalnum(static_cast<unsigned char>(c)) ? c : '_';
-                           return id;
-                         });
+                         [](const ::testing::TestParamInfo<std::string>& info) { return testIdFromFileName(info.param); });
 
 }  // namespace
 }  // namespace lumeric

@@ -1,5 +1,7 @@
 #include "support/SceneRunner.h"
 
+#include <cctype>
+
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -121,6 +123,12 @@ CommandResult runLumeric(const std::vector<std::string>& arguments, const std::s
   result.out = capture.read("out");
   result.err = capture.read("err");
   return result;
+}
+
+std::string testIdFromFileName(const std::string& name) {
+  std::string id;
+  for (char c : name) id += std::isalnum(static_cast<unsigned char>(c)) ? c : '_';
+  return id;
 }
 
 }  // namespace lumeric

@@ -51,6 +51,10 @@ struct CommandResult {
 CommandResult runLumeric(const std::vector<std::string>& arguments, const std::string& workDir,
                          const std::string& shellSetUp = "");
 
+// A GoogleTest parameter name made from a file name: every character that
+// is not a letter or digit becomes '_'.
+std::string testIdFromFileName(const std::string& name);
+
 }  // namespace lumeric
 
 #endif  // LUMERIC_TESTS_SUPPORT_SCENERUNNER_H
