@@ -27,10 +27,11 @@ test: deps
 	cd $(TEST_DIR) && ctest --output-on-failure -j $(JOBS)
 
 # Builds the fuzz targets with clang's libFuzzer in build/fuzz and runs each
-# for FUZZ_TIME seconds.
+# for FUZZ_TIME seconds, FUZZ_PARALLEL targets at a time.
 FUZZ_TIME ?= 180
+FUZZ_PARALLEL ?= 1
 fuzz: deps
-	FUZZ_TIME=$(FUZZ_TIME) scripts/fuzz.sh
+	FUZZ_TIME=$(FUZZ_TIME) FUZZ_PARALLEL=$(FUZZ_PARALLEL) scripts/fuzz.sh
 
 bench: release
 	bench/run.sh $(RELEASE_DIR)

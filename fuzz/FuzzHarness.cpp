@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include <ftw.h>
 #include <unistd.h>
 
 #include "core/RunState.h"
@@ -13,12 +14,27 @@ namespace {
 
 constexpr char kSceneName[] = "fuzz-input.vlm";
 
+std::string scratchDirectory;
+
+int removeEntry(const char* path, const struct stat*, int, struct FTW*) {
+  std::remove(path);
+  return 0;
+}
+
+// Removes the scratch directory and whatever the scenes wrote into it.
+void removeScratchDirectory() {
+  nftw(scratchDirectory.c_str(), removeEntry, 16, FTW_DEPTH | FTW_PHYS);
+}
+
+// The scratch directory goes under $TMPDIR when it is set, so that a
+// campaign can keep its many small writes in memory (TMPDIR=/dev/shm).
 void enterScratchDirectory() {
-  static bool entered = false;
-  if (entered) return;
-  char pattern[] = "/tmp/lumeric-fuzz-XXXXXX";
-  if (mkdtemp(pattern) == nullptr || chdir(pattern) != 0) std::abort();
-  entered = true;
+  if (!scratchDirectory.empty()) return;
+  const char* parent = std::getenv("TMPDIR");
+  std::string pattern = std::string(parent != nullptr && *parent != '\0' ? parent : "/tmp") + "/lumeric-fuzz-XXXXXX";
+  if (mkdtemp(&pattern[0]) == nullptr || chdir(pattern.c_str()) != 0) std::abort();
+  scratchDirectory = pattern;
+  std::atexit(removeScratchDirectory);
 }
 
 }  // namespace
@@ -34,10 +50,12 @@ const char* writeScene(const std::string& text) {
 
 void limitNextRun() {
   theRun.limits.confine = true;
-  // The default budgets take seconds to spend under the sanitizers; the
-  // fuzzer looks for faults, not for the budgets' size.
-  theRun.limits.maxEvaluations = 100000;
-  theRun.limits.maxNodes = 100000;
+  // The default budgets take seconds to spend under the sanitizers, and an
+  // input that runs into a budget is slow in proportion to it. The fuzzer
+  // looks for faults, not for the budgets' size, so small budgets keep every
+  // input quick while still reaching the code past them.
+  theRun.limits.maxEvaluations = 2000;
+  theRun.limits.maxNodes = 2000;
 }
 
 }  // namespace lumeric

@@ -1,16 +1,21 @@
 #!/usr/bin/env bash
 # Builds the fuzz targets with clang's libFuzzer in build/fuzz and runs each
-# for FUZZ_TIME seconds (default 180), one after the other on one core.
+# for FUZZ_TIME seconds (default 180), one after the other on one core, or
+# FUZZ_PARALLEL targets at a time.
 # The seed corpus is made from tests/scenes/ and examples/ (the expression
 # target starts from fuzz/expression-seeds/); what a target
 # finds goes to build/fuzz/artifacts/ (keep every crash or hang as a
 # regression file in tests/fuzz/regressions/).
 #   scripts/fuzz.sh [TARGET...]     TARGET: ParseFuzzer CheckFuzzer ExpressionFuzzer
 # FUZZ_RUNS=N runs N inputs per target instead of a time.
+# FUZZ_PARALLEL=N runs up to N targets at once (default 1).
+# Each target logs to build/fuzz/run/TARGET/fuzz-0.log; the last lines give
+# its count of executions (stat::number_of_executed_units).
 set -euo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
 build="$root/build/fuzz"
 time="${FUZZ_TIME:-180}"
+parallel="${FUZZ_PARALLEL:-1}"
 targets=("$@")
 [ ${#targets[@]} -eq 0 ] && targets=(ParseFuzzer CheckFuzzer ExpressionFuzzer)
 
@@ -23,18 +28,30 @@ mkdir -p "$seeds" "$build/artifacts"
 cp "$root"/tests/scenes/*.vlm "$root"/tests/scenes/*.wrl "$root"/examples/*.vlm "$root"/examples/*.wrl "$seeds"/
 cp "$root"/tests/fuzz/regressions/* "$seeds"/ 2>/dev/null || true
 
-for target in "${targets[@]}"; do
-  corpus="$build/corpus/$target"
-  mkdir -p "$corpus"
+runTarget() {
+  local target="$1"
+  local corpus="$build/corpus/$target" workdir="$build/run/$target"
+  mkdir -p "$corpus" "$workdir"
   # The expression target reads one expression from the first line of its
   # input, so whole scenes make poor seeds for it.
-  targetSeeds="$seeds"
+  local targetSeeds="$seeds"
   [ "$target" = ExpressionFuzzer ] && targetSeeds="$root/fuzz/expression-seeds"
-  limit=(-max_total_time="$time")
+  local limit=(-max_total_time="$time")
   [ -n "${FUZZ_RUNS:-}" ] && limit=(-runs="$FUZZ_RUNS")
-  echo "== $target (log: $build/fuzz-0.log)"
-  cd "$build"
-  "$build/fuzz/lumeric_fuzz_$target" "$corpus" "$targetSeeds" -dict="$root/fuzz/lumeric.dict" -jobs=1 -workers=1 \
+  echo "== $target (log: $workdir/fuzz-0.log)"
+  # The scene files each input becomes are kept in memory when possible.
+  local scratch=/tmp
+  [ -d /dev/shm ] && [ -w /dev/shm ] && scratch=/dev/shm
+  (cd "$workdir" && TMPDIR="$scratch" "$build/fuzz/lumeric_fuzz_$target" "$corpus" "$targetSeeds" \
+    -dict="$root/fuzz/lumeric.dict" -jobs=1 -workers=1 \
     -timeout=10 -rss_limit_mb=2048 -max_len=4096 -print_final_stats=1 "${limit[@]}" \
-    -artifact_prefix="$build/artifacts/$target-"
+    -artifact_prefix="$build/artifacts/$target-") ||
+    echo "== $target stopped on a finding: see $build/artifacts/"
+  grep -h 'stat::number_of_executed_units' "$workdir/fuzz-0.log" | sed "s/^/$target: /" || true
+}
+
+for target in "${targets[@]}"; do
+  runTarget "$target" &
+  while [ "$(jobs -rp | wc -l)" -ge "$parallel" ]; do wait -n || true; done
 done
+wait
