@@ -76,10 +76,12 @@ const char* confinementRefusal(const char* path, bool forWriting) {
 bool isFileBeingRead(const char* path) {
   struct stat target;
   if (stat(path, &target) != 0) return false;
+  // The open streams identify the files: a name on the stack may have been
+  // found under the input directory, not where it reads from here.
   for (int k = 0; k <= theContext.fileDepth; ++k) {
     struct stat reading;
-    const char* name = theContext.fileNames[k];
-    if (name != nullptr && stat(name, &reading) == 0 && reading.st_dev == target.st_dev &&
+    FILE* stream = theContext.fileStreams[k];
+    if (stream != nullptr && fstat(fileno(stream), &reading) == 0 && reading.st_dev == target.st_dev &&
         reading.st_ino == target.st_ino) {
       return true;
     }

@@ -23,8 +23,8 @@ std::string resolvedDirectoryOf(const char* path);
 // file that does not exist yet; its directory must then be inside.
 const char* confinementRefusal(const char* path, bool forWriting);
 
-// Whether `path` names the same file as one of the files on the context's
-// file stack (the files being read).
+// Whether `path` names the same file as one of the open streams on the
+// context's file stack (the files being read).
 bool isFileBeingRead(const char* path);
 
 }  // namespace lumeric

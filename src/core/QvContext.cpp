@@ -8,14 +8,19 @@ namespace lumeric {
 
 QvContext theContext;
 
-bool QvContext::pushFile(const char* name) {
+bool QvContext::pushFile(const char* name, FILE* stream) {
   if (fileDepth + 1 >= kMaxFiles) return false;
-  fileNames[++fileDepth] = name;
+  ++fileDepth;
+  fileNames[fileDepth] = name;
+  fileStreams[fileDepth] = stream;
   return true;
 }
 
 void QvContext::popFile() {
-  if (fileDepth >= 0) fileNames[fileDepth--] = nullptr;
+  if (fileDepth < 0) return;
+  fileNames[fileDepth] = nullptr;
+  fileStreams[fileDepth] = nullptr;
+  --fileDepth;
 }
 
 const char* QvContext::topFile() const { return fileDepth >= 0 ? fileNames[fileDepth] : nullptr; }

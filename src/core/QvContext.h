@@ -7,6 +7,7 @@
 #define LUMERIC_CORE_QVCONTEXT_H
 
 #include <cstdarg>
+#include <cstdio>
 
 #include "core/Failure.h"
 #include "lumeric/lumeric.h"
@@ -27,10 +28,12 @@ class QvContext {
 
   void setView(CReportErrorView* newView) { view = newView; }
 
-  // The file stack stores the caller's pointer; the caller keeps the text
-  // alive while it is on the stack.  pushFile fails, changing nothing, when
+  // The file stack stores the caller's pointers; the caller keeps the text
+  // and the stream alive while they are on the stack.  `stream` is the open
+  // file the name stands for, when there is one: it tells which file is being
+  // read however the name reached it.  pushFile fails, changing nothing, when
   // kMaxFiles names are already there.
-  bool pushFile(const char* name);
+  bool pushFile(const char* name, FILE* stream = nullptr);
   void popFile();
   const char* topFile() const;
 
@@ -64,6 +67,7 @@ class QvContext {
 
   int fileDepth = -1;
   const char* fileNames[kMaxFiles] = {};
+  FILE* fileStreams[kMaxFiles] = {};
   int parseStatus = 0;
   // Serials outlive runs: a serial is never reused, so an expression's mark
   // from an earlier run never matches the evaluation of a later one.

@@ -50,9 +50,9 @@ void reportOpenFailure(const char* inputPath, const char* directory, int errorNu
 }
 
 // Reads the scene's root node with the input on the file stack.
-QvNode* readRoot(QvSceneInput& input, const char* inputPath) {
+QvNode* readRoot(QvSceneInput& input, const char* inputPath, FILE* inputFile) {
   QvNode* root = nullptr;
-  if (theContext.pushFile(inputPath)) {
+  if (theContext.pushFile(inputPath, inputFile)) {
     readScene(&input, root);
     theContext.popFile();
   }
@@ -161,7 +161,7 @@ int runTranslation(const char* inputPath, CReportErrorView* view, const char* di
     QvSceneInput input;
     input.setFile(inputFile);
     theRun.defNames = &input.defNames();
-    QvNode* root = readRoot(input, inputPath);
+    QvNode* root = readRoot(input, inputPath, inputFile);
     if (root == nullptr) {
       result = 1;
     } else {

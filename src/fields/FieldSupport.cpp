@@ -16,12 +16,6 @@ double numberOf(FieldExpression& expr) {
   return value;
 }
 
-double writable(double v, FieldExpression* at) {
-  if (std::isfinite(v)) return v;
-  reportAtExpression(at, "Number is not finite");
-  return 0;
-}
-
 void numbersOf(FieldExpression* exprs, int count, double* out) {
   for (int k = 0; k < count; ++k) out[k] = numberOf(exprs[k]);
 }

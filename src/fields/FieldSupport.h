@@ -33,10 +33,6 @@ constexpr const char kDefinedCannotSet[] = "This field is defined by a field exp
 constexpr const char kDefinedCannotAppend[] =
     "This field is defined by a field expression - cannot append to its value";
 
-// `v` when it is a finite number; otherwise reports "Number is not finite"
-// at `at` and gives 0, so that every written value loads.
-double writable(double v, FieldExpression* at);
-
 // New terms holding copies of the numbers.
 VectorTerm* makeVector(const double* values, int count);
 MatrixTerm* makeMatrix(const double* values, int rows, int cols);

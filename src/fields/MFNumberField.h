@@ -140,10 +140,10 @@ void MFNumberField<Derived, Traits>::write(SceneWriter& out) {
     // The expanded numbers no longer tell their element; the list's first
     // expression stands for all of them in messages.
     writeItems(out, static_cast<int>(numbers.size()),
-               [&](int k) { return writable(numbers[static_cast<size_t>(k)], element(0)); });
+               [&](int k) { return finiteAt(numbers[static_cast<size_t>(k)], element(0)); });
     return;
   }
-  writeItems(out, num, [this](int k) { return writable(numberAt(k, 0), element(k)); });
+  writeItems(out, num, [this](int k) { return finiteAt(numberAt(k, 0), element(k)); });
 }
 
 // One number: " %g\n".  Up to kItemsPerLine: " [", the items " %g," and the

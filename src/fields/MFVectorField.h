@@ -180,12 +180,12 @@ void MFVectorField<Derived, Traits>::write(SceneWriter& out) {
     // The expanded rows no longer tell their element; the list's first
     // expression stands for all of them in messages.
     writeRows(out, static_cast<int>(rows.size() / kWidth), [&](int r, double* numbers) {
-      for (int k = 0; k < kWidth; ++k) numbers[k] = writable(rows[static_cast<size_t>(r) * kWidth + k], element(0));
+      for (int k = 0; k < kWidth; ++k) numbers[k] = finiteAt(rows[static_cast<size_t>(r) * kWidth + k], element(0));
     });
     return;
   }
   writeRows(out, num, [this](int r, double* numbers) {
-    for (int k = 0; k < kWidth; ++k) numbers[k] = writable(numberAt(r, k), &element(r)[k]);
+    for (int k = 0; k < kWidth; ++k) numbers[k] = finiteAt(numberAt(r, k), &element(r)[k]);
   });
 }
 

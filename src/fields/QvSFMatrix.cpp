@@ -63,10 +63,10 @@ void QvSFMatrix::write(SceneWriter& out) {
   if (isExpression) {
     MatrixTerm* matrix = evaluateWhole();
     if (matrix == nullptr) return reportAt(&wholeExpression, "Expression does not evaluate to a 4 by 4 matrix");
-    for (int k = 0; k < 16; ++k) numbers[k] = writable(matrix->elements[k], &wholeExpression);
+    for (int k = 0; k < 16; ++k) numbers[k] = finiteAt(matrix->elements[k], &wholeExpression);
   } else {
     componentNumbers(numbers);
-    for (int k = 0; k < 16; ++k) numbers[k] = writable(numbers[k], &values[k]);
+    for (int k = 0; k < 16; ++k) numbers[k] = finiteAt(numbers[k], &values[k]);
   }
   SceneWriter::Deeper deeper(out);
   // Every row, the first included, starts with a blank: after the field

@@ -56,13 +56,13 @@ void QvSFRotation::write(SceneWriter& out) {
     // Each number is written " %g " (the last " %g\n"), so two blanks
     // separate them.
     for (int k = 0; k < 4; ++k) {
-      out.character(' ').number(writable(numbers[k], &wholeExpression)).character(k < 3 ? ' ' : '\n');
+      out.character(' ').number(finiteAt(numbers[k], &wholeExpression)).character(k < 3 ? ' ' : '\n');
     }
     return;
   }
   double numbers[4];
   componentNumbers(numbers);
-  for (int k = 0; k < 4; ++k) numbers[k] = writable(numbers[k], &values[k]);
+  for (int k = 0; k < 4; ++k) numbers[k] = finiteAt(numbers[k], &values[k]);
   for (int k = 0; k < 3; ++k) out.character(' ').rounded(numbers[k]);
   out.character(' ').number(numbers[3]).character('\n');
 }

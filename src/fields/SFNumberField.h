@@ -48,7 +48,7 @@ Term* SFNumberField<Derived, Traits>::GetLumericValue(int i, int, FieldExpressio
 template <class Derived, class Traits>
 void SFNumberField<Derived, Traits>::write(SceneWriter& out) {
   out.character(' ');
-  Traits::writeValue(out, writable(numberOf(value), &value));
+  Traits::writeValue(out, finiteAt(numberOf(value), &value));
 }
 
 }  // namespace lumeric

@@ -97,7 +97,7 @@ void SFVectorField<Derived, Traits>::write(SceneWriter& out) {
   }
   for (int k = 0; k < kSize; ++k) {
     if (k == 0) out.character(' ');
-    out.rounded(writable(numbers[k], &values[isExpression ? 0 : k])).character(k + 1 < kSize ? ' ' : '\n');
+    out.rounded(finiteAt(numbers[k], &values[isExpression ? 0 : k])).character(k + 1 < kSize ? ' ' : '\n');
   }
 }
 

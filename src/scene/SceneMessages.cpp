@@ -1,5 +1,7 @@
 #include "scene/SceneMessages.h"
 
+#include <cmath>
+
 #include "core/QvContext.h"
 #include "core/VariadicArguments.h"
 #include "scene/FieldExpression.h"
@@ -40,5 +42,23 @@ void warnAtExpression(const FieldExpression* expr, const char* format, ...) {
 }
 
 void reportAt(const FieldExpression* at, const char* message) { reportAtExpression(at, "%s", message); }
+
+namespace {
+
+constexpr char kNotFinite[] = "Number is not finite";
+
+}  // namespace
+
+double finiteAt(double v, const FieldExpression* at) {
+  if (std::isfinite(v)) return v;
+  reportAtExpression(at, kNotFinite);
+  return 0;
+}
+
+double finiteAt(double v, const QvNode* at) {
+  if (std::isfinite(v)) return v;
+  reportAtNode(at, kNotFinite);
+  return 0;
+}
 
 }  // namespace lumeric

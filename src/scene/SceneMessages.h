@@ -23,6 +23,12 @@ void warnAtExpression(const FieldExpression* expr, const char* format, ...) __at
 // paths read the same way: `return reportAt(where, kCannotSet);`.
 void reportAt(const FieldExpression* at, const char* message);
 
+// `v` when it is a finite number; otherwise reports "Number is not finite"
+// at `at` and gives 0, so that every written value loads.  Fields report at
+// the expression a value came from, generators at themselves.
+double finiteAt(double v, const FieldExpression* at);
+double finiteAt(double v, const QvNode* at);
+
 }  // namespace lumeric
 
 #endif  // LUMERIC_SCENE_SCENEMESSAGES_H

@@ -31,8 +31,8 @@ SceneWriter& SceneWriter::character(char c) {
 }
 
 SceneWriter& SceneWriter::number(double v) {
-  // "inf" and "nan" load in no reader; the fields report such a value
-  // before it gets here.
+  // "inf" and "nan" load in no reader; whoever writes a value reports it
+  // through finiteAt() before it gets here.
   if (!std::isfinite(v)) v = 0;
   makeRoom(kNumberTextSize);
   used_ += static_cast<size_t>(formatNumber(buffer_ + used_, v));
@@ -40,15 +40,6 @@ SceneWriter& SceneWriter::number(double v) {
 }
 
 SceneWriter& SceneWriter::rounded(double v) { return number(roundToPrecision(v)); }
-
-bool SceneWriter::finiteRounded(double v) {
-  if (!std::isfinite(v)) {
-    number(0);
-    return false;
-  }
-  rounded(v);
-  return true;
-}
 
 SceneWriter& SceneWriter::integer(long v) {
   makeRoom(kNumberTextSize);
@@ -99,9 +90,9 @@ void SceneWriter::openNode(const char* name, const char* className) {
   ++level_;
 }
 
-void SceneWriter::closeNode() {
+void SceneWriter::closeNode(After after) {
   --level_;
-  line("}\n\n");
+  line(after == After::kEmptyLine ? "}\n\n" : "}\n");
 }
 
 void SceneWriter::flush() {

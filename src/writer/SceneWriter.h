@@ -47,11 +47,6 @@ class SceneWriter {
   SceneWriter& number(double v);
   // "%g" of the number rounded to the PRECISION step (roundToPrecision).
   SceneWriter& rounded(double v);
-  // rounded(v) and true when `v` is finite; "0" and false when it is
-  // infinite or NaN, so that the output loads: the caller then reports
-  // "Number is not finite" where the value came from.  Generated geometry
-  // writes its numbers through this.
-  bool finiteRounded(double v);
   // "%d".
   SceneWriter& integer(long v);
   // printf-formatted text.
@@ -79,9 +74,12 @@ class SceneWriter {
 
   // The frame of a node: "DEF name Class {" (or "Class {" when `name` is
   // null or empty) on its own line, then one level deeper until
-  // closeNode(), which writes "}" and an empty line at the node's level.
+  // closeNode(), which writes "}" at the node's level and, after a node read
+  // from the scene, an empty line.  Generated nodes are written close
+  // together, without it.
+  enum class After { kEmptyLine, kNothing };
   void openNode(const char* name, const char* className);
-  void closeNode();
+  void closeNode(After after = After::kEmptyLine);
 
   // A value list of `count` items after the field name, as `layout` says;
   // writeItem(i) writes item i through this writer.

@@ -99,14 +99,28 @@ TEST(OutputFiles, WriteErrorsOfStreamsAndDevicesAreReported) {
 }
 
 TEST(OutputFiles, OutputToNeverReplacesTheSceneBeingRead) {
-  ScratchDir dir;
-  std::string scene = "#VRML V1.0 ascii\nGroup {\n\tOUTPUT_TO scene.vlm\n\tCube { width 3 }\n}\n";
-  dir.write("scene.vlm", scene);
-  CommandResult run = runLumeric({"scene.vlm"}, dir.path());
-  EXPECT_EQ(run.status, 1);
-  EXPECT_EQ(run.err, "error: File \"scene.vlm\" Line 4: Cannot OUTPUT_TO file scene.vlm - File is being read\n");
-  EXPECT_EQ(dir.read("scene.vlm"), scene);
-  EXPECT_TRUE(contains(dir.read("output.wrl"), "\t\twidth 3\n"));
+  // The scene is found where it is given, or through -d under another
+  // directory; either way OUTPUT_TO may not name it.
+  struct Case {
+    const char* sceneFile;
+    std::vector<std::string> arguments;
+  } cases[] = {
+      {"scene.vlm", {"scene.vlm"}},
+      {"scenes/scene.vlm", {"-d", "scenes/", "scene.vlm"}},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.sceneFile);
+    ScratchDir dir;
+    const std::string scene = std::string("#VRML V1.0 ascii\nGroup {\n\tOUTPUT_TO ") + c.sceneFile +
+                              "\n\tCube { width 3 }\n}\n";
+    dir.write(c.sceneFile, scene);
+    CommandResult run = runLumeric(c.arguments, dir.path());
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.err, std::string("error: File \"scene.vlm\" Line 4: Cannot OUTPUT_TO file ") + c.sceneFile +
+                           " - File is being read\n");
+    EXPECT_EQ(dir.read(c.sceneFile), scene);
+    EXPECT_TRUE(contains(dir.read("output.wrl"), "\t\twidth 3\n"));
+  }
 }
 
 TEST(OutputFiles, TheCommentLineShowsControlCharactersOfThePathAsQuestionMarks) {

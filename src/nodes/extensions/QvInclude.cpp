@@ -31,7 +31,7 @@ QvNode* QvInclude::includeFile(FieldExpression& nameText, QvSceneInput* in) {
   FILE* file = openForReading(name, errorNumber);
   if (file == nullptr) return reportAtExpression(&nameText, "Cannot open INCLUDE file %s", name);
   if (theRun.includedFiles != nullptr) theRun.includedFiles->push_back(name);
-  if (!theContext.pushFile(name)) {
+  if (!theContext.pushFile(name, file)) {
     std::fclose(file);
     return reportAtExpression(&nameText, "Cannot INCLUDE file %s - Files nested too deep", name);
   }

@@ -7,27 +7,12 @@ namespace lumeric {
 
 namespace {
 
-// "DEF name type {" or "type {", indented.
-void writeHeader(SceneWriter& out, const char* name, const char* type) {
-  if (name != nullptr && name[0] != '\0') {
-    out.line("DEF %s %s {\n", name, type);
-  } else {
-    out.line("%s {\n", type);
-  }
-}
-
 // The frame of one generated node: the header, its lines one level deeper,
-// and the closing brace.
+// and the closing brace with no empty line after it.
 class NodeFrame {
  public:
-  NodeFrame(SceneWriter& out, const char* name, const char* type) : out_(out) {
-    writeHeader(out_, name, type);
-    out_.setLevel(out_.level() + 1);
-  }
-  ~NodeFrame() {
-    out_.setLevel(out_.level() - 1);
-    out_.indentation().text("}\n");
-  }
+  NodeFrame(SceneWriter& out, const char* name, const char* type) : out_(out) { out_.openNode(name, type); }
+  ~NodeFrame() { out_.closeNode(SceneWriter::After::kNothing); }
   NodeFrame(const NodeFrame&) = delete;
   NodeFrame& operator=(const NodeFrame&) = delete;
 
@@ -38,8 +23,7 @@ class NodeFrame {
 // The rounded number, preceded by `before`; one that is not finite is
 // reported at the generator being written and written as 0.
 void writeNumber(SceneWriter& out, const char* before, double v) {
-  out.text(before);
-  if (!out.finiteRounded(v)) reportAtNode(theNodeStack.top(), "Number is not finite");
+  out.text(before).rounded(finiteAt(v, theNodeStack.top()));
 }
 
 // "name a b c" or, with four numbers, "name a b c  angle"; then a newline.
@@ -51,15 +35,9 @@ void writeVectorLine(SceneWriter& out, const char* name, const double* v, int co
 
 }  // namespace
 
-SeparatorBlock::SeparatorBlock(SceneWriter& out, const char* name) : out_(out) {
-  writeHeader(out_, name, "Separator");
-  out_.setLevel(out_.level() + 1);
-}
+SeparatorBlock::SeparatorBlock(SceneWriter& out, const char* name) : out_(out) { out_.openNode(name, "Separator"); }
 
-SeparatorBlock::~SeparatorBlock() {
-  out_.setLevel(out_.level() - 1);
-  out_.indentation().text("}\n");
-}
+SeparatorBlock::~SeparatorBlock() { out_.closeNode(SceneWriter::After::kNothing); }
 
 void writeTranslation(SceneWriter& out, double x, double y, double z) {
   NodeFrame node(out, nullptr, "Translation");

@@ -7,8 +7,7 @@
 // or empty), writes its lines one level deeper, and ends with the level
 // restored and the line "}" (no empty line after it, unlike the frames of
 // nodes read from the scene).  Numbers are rounded to the current PRECISION
-// step (SceneWriter::finiteRounded); a number that is infinite or NaN is
-// reported as "Number is not finite" at the node being visited (the
+// step; a number that is infinite or NaN is reported (finiteAt) as "Number is not finite" at the node being visited (the
 // generator) and written as 0.
 #ifndef LUMERIC_NODES_GENERATORS_GEOMETRYWRITER_H
 #define LUMERIC_NODES_GENERATORS_GEOMETRYWRITER_H
