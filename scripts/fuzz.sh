@@ -19,6 +19,7 @@ parallel="${FUZZ_PARALLEL:-1}"
 targets=("$@")
 [ ${#targets[@]} -eq 0 ] && targets=(ParseFuzzer CheckFuzzer ExpressionFuzzer)
 
+"$root/scripts/install-deps.sh" fuzz
 CC=clang CXX=clang++ cmake -S "$root" -B "$build" -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g" \
   -DLUMERIC_FUZZ=ON -DLUMERIC_TESTS=OFF -DLUMERIC_COIN_TOOLS=OFF >/dev/null
 cmake --build "$build" -j 2 --target $(printf 'lumeric_fuzz_%s ' "${targets[@]}")

@@ -4,6 +4,8 @@
 set -euo pipefail
 
 packages=(cmake g++ make bison libgtest-dev libbenchmark-dev libcoin-dev binutils pkg-config groff-base)
+# `install-deps.sh fuzz` adds clang and its libFuzzer runtime.
+if [ "${1:-}" = fuzz ]; then packages+=(clang libclang-rt-dev); fi
 missing=()
 for p in "${packages[@]}"; do
   dpkg -s "$p" >/dev/null 2>&1 || missing+=("$p")
