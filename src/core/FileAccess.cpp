@@ -80,7 +80,7 @@ bool isFileBeingRead(const char* path) {
   // found under the input directory, not where it reads from here.
   for (int k = 0; k <= theContext.fileDepth; ++k) {
     struct stat reading;
-    FILE* stream = theContext.fileStreams[k];
+    FILE* stream = theContext.files[k].stream;
     if (stream != nullptr && fstat(fileno(stream), &reading) == 0 && reading.st_dev == target.st_dev &&
         reading.st_ino == target.st_ino) {
       return true;

@@ -10,20 +10,15 @@ QvContext theContext;
 
 bool QvContext::pushFile(const char* name, FILE* stream) {
   if (fileDepth + 1 >= kMaxFiles) return false;
-  ++fileDepth;
-  fileNames[fileDepth] = name;
-  fileStreams[fileDepth] = stream;
+  files[++fileDepth] = OpenFile{name, stream};
   return true;
 }
 
 void QvContext::popFile() {
-  if (fileDepth < 0) return;
-  fileNames[fileDepth] = nullptr;
-  fileStreams[fileDepth] = nullptr;
-  --fileDepth;
+  if (fileDepth >= 0) files[fileDepth--] = OpenFile();
 }
 
-const char* QvContext::topFile() const { return fileDepth >= 0 ? fileNames[fileDepth] : nullptr; }
+const char* QvContext::topFile() const { return fileDepth >= 0 ? files[fileDepth].name : nullptr; }
 
 void QvContext::post(int flag, const char* prefix, const char* format, va_list args) {
   char text[kMessageLimit + 1];

@@ -66,8 +66,13 @@ class QvContext {
   int drawSerial() { return ++serialCounter; }
 
   int fileDepth = -1;
-  const char* fileNames[kMaxFiles] = {};
-  FILE* fileStreams[kMaxFiles] = {};
+  // A file on the stack: its name for messages and, when there is one, its
+  // open stream.
+  struct OpenFile {
+    const char* name = nullptr;
+    FILE* stream = nullptr;
+  };
+  OpenFile files[kMaxFiles] = {};
   int parseStatus = 0;
   // Serials outlive runs: a serial is never reused, so an expression's mark
   // from an earlier run never matches the evaluation of a later one.

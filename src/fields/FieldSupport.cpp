@@ -1,12 +1,10 @@
 #include "fields/FieldSupport.h"
 
-#include <cmath>
 #include <cstring>
 #include <string>
 
 #include "expr/Evaluation.h"
 #include "scene/FieldExpression.h"
-#include "scene/SceneMessages.h"
 
 namespace lumeric {
 

@@ -7,19 +7,6 @@ namespace lumeric {
 
 namespace {
 
-// The frame of one generated node: the header, its lines one level deeper,
-// and the closing brace with no empty line after it.
-class NodeFrame {
- public:
-  NodeFrame(SceneWriter& out, const char* name, const char* type) : out_(out) { out_.openNode(name, type); }
-  ~NodeFrame() { out_.closeNode(SceneWriter::After::kNothing); }
-  NodeFrame(const NodeFrame&) = delete;
-  NodeFrame& operator=(const NodeFrame&) = delete;
-
- private:
-  SceneWriter& out_;
-};
-
 // The rounded number, preceded by `before`; one that is not finite is
 // reported at the generator being written and written as 0.
 void writeNumber(SceneWriter& out, const char* before, double v) {
@@ -35,24 +22,20 @@ void writeVectorLine(SceneWriter& out, const char* name, const double* v, int co
 
 }  // namespace
 
-SeparatorBlock::SeparatorBlock(SceneWriter& out, const char* name) : out_(out) { out_.openNode(name, "Separator"); }
-
-SeparatorBlock::~SeparatorBlock() { out_.closeNode(SceneWriter::After::kNothing); }
-
 void writeTranslation(SceneWriter& out, double x, double y, double z) {
-  NodeFrame node(out, nullptr, "Translation");
+  GeneratedNodeFrame node(out, nullptr, "Translation");
   const double v[3] = {x, y, z};
   writeVectorLine(out, "translation", v, 3);
 }
 
 void writeSphere(SceneWriter& out, const char* name, double radius) {
-  NodeFrame node(out, name, "Sphere");
+  GeneratedNodeFrame node(out, name, "Sphere");
   writeVectorLine(out, "radius", &radius, 1);
 }
 
 void writeTransform(SceneWriter& out, const char* name, const double* translation, const double* rotation,
                     const double* scaleFactor, const double* scaleOrientation, const double* center) {
-  NodeFrame node(out, name, "Transform");
+  GeneratedNodeFrame node(out, name, "Transform");
   if (translation != nullptr) writeVectorLine(out, "translation", translation, 3);
   if (rotation != nullptr) writeVectorLine(out, "rotation", rotation, 4);
   if (scaleFactor != nullptr) writeVectorLine(out, "scaleFactor", scaleFactor, 3);
@@ -61,14 +44,14 @@ void writeTransform(SceneWriter& out, const char* name, const double* translatio
 }
 
 void writeCylinder(SceneWriter& out, const char* name, const char* parts, double radius, double height) {
-  NodeFrame node(out, name, "Cylinder");
+  GeneratedNodeFrame node(out, name, "Cylinder");
   if (parts != nullptr && parts[0] != '\0') out.line("parts %s\n", parts);
   writeVectorLine(out, "radius", &radius, 1);
   writeVectorLine(out, "height", &height, 1);
 }
 
 void writeCoordinate3(SceneWriter& out, const char* name, WallMesh::PointList& points) {
-  NodeFrame node(out, name, "Coordinate3");
+  GeneratedNodeFrame node(out, name, "Coordinate3");
   if (points.empty()) {
     out.line("point []\n");
     return;
@@ -89,7 +72,7 @@ void writeCoordinate3(SceneWriter& out, const char* name, WallMesh::PointList& p
 }
 
 void writeIndexedFaceSet(SceneWriter& out, const char* name, const WallMesh::FaceList& faces) {
-  NodeFrame node(out, name, "IndexedFaceSet");
+  GeneratedNodeFrame node(out, name, "IndexedFaceSet");
   out.line("coordIndex [");
   if (faces.empty()) {
     out.text(" ]\n");

@@ -7,8 +7,9 @@
 // or empty), writes its lines one level deeper, and ends with the level
 // restored and the line "}" (no empty line after it, unlike the frames of
 // nodes read from the scene).  Numbers are rounded to the current PRECISION
-// step; a number that is infinite or NaN is reported (finiteAt) as "Number is not finite" at the node being visited (the
-// generator) and written as 0.
+// step; a number that is infinite or NaN is reported as "Number is not
+// finite" at the node being visited (the generator, through finiteAt) and
+// written as 0.
 #ifndef LUMERIC_NODES_GENERATORS_GEOMETRYWRITER_H
 #define LUMERIC_NODES_GENERATORS_GEOMETRYWRITER_H
 
@@ -17,18 +18,26 @@
 
 namespace lumeric {
 
-// Opens a Separator (named `name` when that is not empty) on construction
-// and closes it on destruction; what is written in between sits one level
-// deeper.
-class SeparatorBlock {
+// The frame of one generated node of class `type` (named `name` when that
+// is not empty): opened on construction, closed on destruction with no empty
+// line after the brace; what is written in between sits one level deeper.
+class GeneratedNodeFrame {
  public:
-  SeparatorBlock(SceneWriter& out, const char* name);
-  ~SeparatorBlock();
-  SeparatorBlock(const SeparatorBlock&) = delete;
-  SeparatorBlock& operator=(const SeparatorBlock&) = delete;
+  GeneratedNodeFrame(SceneWriter& out, const char* name, const char* type) : out_(out) {
+    out_.openNode(name, type);
+  }
+  ~GeneratedNodeFrame() { out_.closeNode(SceneWriter::After::kNothing); }
+  GeneratedNodeFrame(const GeneratedNodeFrame&) = delete;
+  GeneratedNodeFrame& operator=(const GeneratedNodeFrame&) = delete;
 
  private:
   SceneWriter& out_;
+};
+
+// A Separator frame, which a generator's other nodes are written inside.
+class SeparatorBlock : public GeneratedNodeFrame {
+ public:
+  SeparatorBlock(SceneWriter& out, const char* name) : GeneratedNodeFrame(out, name, "Separator") {}
 };
 
 // "Translation {" (never named) with "translation x y z".
