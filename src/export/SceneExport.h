@@ -1,0 +1,27 @@
+// From a scene file to the scene an export writes: the scene is translated
+// as usual into memory, the plain VRML 1.0 text is read back with the
+// library's own reader, and a traversal of that plain tree applies every
+// rule that decides what a viewer shows.
+#ifndef LUMERIC_EXPORT_SCENEEXPORT_H
+#define LUMERIC_EXPORT_SCENEEXPORT_H
+
+#include "driver/Translation.h"
+#include "export/ExportScene.h"
+#include "lumeric/lumeric.h"
+
+namespace lumeric {
+
+struct ExportOptions {
+  // Segments around a curved primitive; 0: as the scene's Complexity says.
+  int tessellation = 0;
+};
+
+// Translates `inputPath` (messages to `view`, `additions` applied as the
+// command line gives them) and fills `scene` with what the translation
+// shows.  Returns what translateScene returns.
+int buildExportScene(const char* inputPath, CReportErrorView* view, const char* directory, RunAdditions* additions,
+                     const ExportOptions& options, ExportScene& scene);
+
+}  // namespace lumeric
+
+#endif  // LUMERIC_EXPORT_SCENEEXPORT_H
