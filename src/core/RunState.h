@@ -7,11 +7,13 @@
 #ifndef LUMERIC_CORE_RUNSTATE_H
 #define LUMERIC_CORE_RUNSTATE_H
 
+#include <cstdint>
 #include <cstdio>
 #include <string>
 #include <vector>
 
 #include "core/OutputFile.h"
+#include "core/QvAtom.h"
 
 namespace lumeric {
 
@@ -104,12 +106,12 @@ class RunState {
 
 extern RunState theRun;
 
-// Appends `node` to the registry list of `text`, creating registry and list
-// on first use.
-void addName(QvNode* node, const char* text);
-// Removes `node` from the list of `text`; a program error when it is not
+// Adds `node` to the registry list of `name`, creating registry and list on
+// first use; `slot` is the node's own record of where its entry is.
+void addName(QvNode* node, QvAtom name, int32_t* slot);
+// Removes `node` from the list of `name`; a program error when it is not
 // there.
-void removeName(QvNode* node, const char* text);
+void removeName(QvNode* node, QvAtom name, int32_t* slot);
 
 // --- What outlives runs ---------------------------------------------------
 
