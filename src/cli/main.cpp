@@ -51,8 +51,9 @@ bool finishDependencies(lumeric::OutputFile& deps, const lumeric::CommandLine& l
     return true;
   }
   std::vector<std::string> files = openedInput(line);
+  const size_t sources = files.size();
   files.insert(files.end(), additions.includedFiles.begin(), additions.includedFiles.end());
-  const std::string rule = dependencyRule(outputName, files);
+  const std::string rule = dependencyRule(outputName, files, sources);
   bool written = std::fputs(rule.c_str(), deps.stream()) >= 0;
   int errorNumber = 0;
   return deps.commit(written ? 0 : EIO, errorNumber) == OutputFile::kReplaced;
