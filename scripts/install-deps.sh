@@ -3,9 +3,13 @@
 # Debian packages only; needs root (or sudo) the first time.
 set -euo pipefail
 
-packages=(cmake g++ make bison libgtest-dev libbenchmark-dev libcoin-dev binutils pkg-config groff-base)
-# `install-deps.sh fuzz` adds clang and its libFuzzer runtime.
-if [ "${1:-}" = fuzz ]; then packages+=(clang libclang-rt-dev); fi
+packages=(cmake g++ make bison libgtest-dev libcoin-dev binutils pkg-config groff-base)
+# `install-deps.sh fuzz` adds clang and its libFuzzer runtime;
+# `install-deps.sh bench` adds Google Benchmark, which only `make bench` uses.
+case "${1:-}" in
+  fuzz) packages+=(clang libclang-rt-dev) ;;
+  bench) packages+=(libbenchmark-dev) ;;
+esac
 missing=()
 for p in "${packages[@]}"; do
   dpkg -s "$p" >/dev/null 2>&1 || missing+=("$p")

@@ -41,6 +41,9 @@ void RunState::reset() {
   extensionsEnabled = true;
   defNames = nullptr;
   includedFiles = nullptr;
+  filesRead.clear();
+  inputLocation.clear();
+  includeDirectories = nullptr;
   readingDepth = 0;
   parseDepth = 0;
   theContext.fileDepth = -1;

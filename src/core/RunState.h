@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "core/FileAccess.h"
 #include "core/OutputFile.h"
 #include "core/QvAtom.h"
 
@@ -79,8 +80,17 @@ class RunState {
   QvDefTable* defNames = nullptr;
   // Every named node, by name.
   QvNameTable* nameRegistry = nullptr;
-  // When set, receives the name of every file INCLUDE reads.
+  // When set, receives the name of every file INCLUDE reads, as opened.
   std::vector<std::string>* includedFiles = nullptr;
+  // Every file the run has opened for reading (the input, every INCLUDE);
+  // no output of the run may replace one of them.
+  std::vector<FileIdentity> filesRead;
+  // Where the input is, for INCLUDE to look beside it: the path it was
+  // opened at, or the name the caller gave a stream it reads.
+  std::string inputLocation;
+  // When set, the directories INCLUDE looks in, in order, for a relative
+  // name found neither as written nor beside the including file.
+  const std::vector<std::string>* includeDirectories = nullptr;
   // With limits.confine: the resolved directory of the input, inside which
   // files may be read and written.
   std::string confinedTo;
