@@ -14,6 +14,9 @@ namespace lumeric {
 struct ExportOptions {
   // Segments around a curved primitive; 0: as the scene's Complexity says.
   int tessellation = 0;
+  // Nodes the traversal may visit (each USE visits its subtree again);
+  // beyond it the rest of the scene is left out with a warning.
+  long maxVisits = 10000000;
 };
 
 // Translates `inputPath` (messages to `view`, `additions` applied as the
