@@ -120,7 +120,9 @@ ExportMesh sphereMesh(QvSphere& node, ShapeContext& context) {
   const int material = b.material(0);
   auto at = [&](int i, int j) {
     const double s = static_cast<double>(i) / segments, t = static_cast<double>(j) / bands;
-    const double ny = -std::cos(kPi * t), ring = std::sin(kPi * t);
+    // The poles exactly: their bands' triangles without area are left out.
+    const bool pole = j == 0 || j == bands;
+    const double ny = pole ? (j == 0 ? -1 : 1) : -std::cos(kPi * t), ring = pole ? 0 : std::sin(kPi * t);
     const double nx = ring * aroundX(s), nz = ring * aroundZ(s);
     return b.corner(r * nx, r * ny, r * nz, nx, ny, nz, s, t);
   };
