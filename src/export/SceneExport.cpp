@@ -56,16 +56,31 @@ class MemoryText {
 
 }  // namespace
 
+void buildPlainExportScene(FILE* text, const char* path, const RunLimits& limits, CReportErrorView* view,
+                           const ExportOptions& options, ExportScene& scene) {
+  scene = ExportScene();
+  ExportMessages messages(view);
+  const std::string confinedTo = limits.confine ? resolvedDirectoryOf(path) : std::string();
+  try {
+    readPlainScene(text, path, limits, confinedTo.c_str(), [&](QvNode* root) {
+      SceneTraversal traversal(scene, messages, options, path);
+      traversal.traverse(root);
+    });
+  } catch (const std::exception&) {
+    scene = ExportScene();
+    messages.error("Out of memory");
+  }
+}
+
 int buildExportScene(const char* inputPath, CReportErrorView* view, const char* directory, RunAdditions* additions,
                      const ExportOptions& options, ExportScene& scene) {
   scene = ExportScene();
-  ExportMessages messages(view);
   // The translation's end restores the run's limits; the reading back
   // keeps those the caller set.
   const RunLimits limits = theRun.limits;
   MemoryText plain;
   if (plain.stream() == nullptr) {
-    messages.error("Out of memory");
+    ExportMessages(view).error("Out of memory");
     return 0;
   }
   OutputOverride output;
@@ -75,20 +90,10 @@ int buildExportScene(const char* inputPath, CReportErrorView* view, const char* 
   if (plain.text() == nullptr || plain.size() == 0) return result;
   FILE* text = fmemopen(const_cast<char*>(plain.text()), plain.size(), "r");
   if (text == nullptr) {
-    messages.error("Out of memory");
+    ExportMessages(view).error("Out of memory");
     return result;
   }
-  const std::string path = openedPath(inputPath, directory);
-  const std::string confinedTo = limits.confine ? resolvedDirectoryOf(path.c_str()) : std::string();
-  try {
-    readPlainScene(text, path.c_str(), limits, confinedTo.c_str(), [&](QvNode* root) {
-      SceneTraversal traversal(scene, messages, options, path);
-      traversal.traverse(root);
-    });
-  } catch (const std::exception&) {
-    scene = ExportScene();
-    messages.error("Out of memory");
-  }
+  buildPlainExportScene(text, openedPath(inputPath, directory).c_str(), limits, view, options, scene);
   std::fclose(text);
   return result;
 }
