@@ -6,31 +6,44 @@
 #define LUMERIC_EXPORT_FIELDVALUES_H
 
 #include <array>
+#include <cctype>
 #include <cmath>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
 #include "expr/Evaluation.h"
 #include "fields/FieldSupport.h"
+#include "scene/FieldExpression.h"
 
 namespace lumeric {
 
 inline double finiteOrZero(double v) { return std::isfinite(v) ? v : 0.0; }
 
+// One value text as a number: a plain number is read at once, anything
+// else (TRUE, an expression) through the expression language.
+inline double numberIn(FieldExpression& text) {
+  const char* t = text.text();
+  if (t != nullptr && *t != '\0' && !std::isspace(static_cast<unsigned char>(*t))) {
+    char* end = nullptr;
+    const double v = std::strtod(t, &end);
+    if (end != t && *end == '\0') return finiteOrZero(v);
+  }
+  return finiteOrZero(numberOf(text));
+}
+
 // A single number field (SFFloat, SFLong, SFBool).
 template <class Field>
 double numberIn(Field& field) {
-  return finiteOrZero(numberOf(field.value));
+  return numberIn(field.value);
 }
 
 // The N components of a single vector field (SFVec3f, SFColor,
 // SFRotation, SFMatrix).
 template <int N, class Field>
 std::array<double, N> componentsIn(Field& field) {
-  double numbers[N];
-  numbersOf(field.values, N, numbers);
   std::array<double, N> out{};
-  for (int k = 0; k < N; ++k) out[k] = finiteOrZero(numbers[k]);
+  for (int k = 0; k < N; ++k) out[k] = numberIn(field.values[k]);
   return out;
 }
 
@@ -39,8 +52,17 @@ std::array<double, N> componentsIn(Field& field) {
 template <class Field>
 std::vector<double> numbersIn(Field& field) {
   std::vector<double> numbers;
-  field.expand(numbers);
-  for (double& v : numbers) v = finiteOrZero(v);
+  if (field.isExpression) {
+    field.expand(numbers);
+    for (double& v : numbers) v = finiteOrZero(v);
+    return numbers;
+  }
+  const int width = field.width();
+  numbers.reserve(static_cast<size_t>(field.num) * static_cast<size_t>(width));
+  for (int i = 0; i < field.num; ++i) {
+    FieldExpression* element = field.element(i);
+    for (int k = 0; k < width; ++k) numbers.push_back(numberIn(element[k]));
+  }
   return numbers;
 }
 

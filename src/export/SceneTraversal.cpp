@@ -3,6 +3,9 @@
 #include <cmath>
 #include <cstdio>
 #include <cstring>
+#include <typeindex>
+#include <typeinfo>
+#include <unordered_map>
 
 #include "core/FileAccess.h"
 #include "driver/PlainScene.h"
@@ -50,6 +53,83 @@
 #include "reader/QvUnknownNode.h"
 
 namespace lumeric {
+
+// Every node class the traversal knows, found by the node's exact type
+// (one look-up per node instead of a cast for each class).
+#define LUMERIC_EXPORT_NODE_CLASSES(X) \
+  X(AsciiText) \
+  X(Cone) \
+  X(Coordinate3) \
+  X(Cube) \
+  X(Cylinder) \
+  X(DirectionalLight) \
+  X(Group) \
+  X(IndexedFaceSet) \
+  X(IndexedLineSet) \
+  X(LOD) \
+  X(Material) \
+  X(MaterialBinding) \
+  X(MatrixTransform) \
+  X(Normal) \
+  X(NormalBinding) \
+  X(OrthographicCamera) \
+  X(PerspectiveCamera) \
+  X(PointLight) \
+  X(PointSet) \
+  X(Rotation) \
+  X(Scale) \
+  X(Separator) \
+  X(ShapeHints) \
+  X(Sphere) \
+  X(SpotLight) \
+  X(Switch) \
+  X(Texture2) \
+  X(Texture2Transform) \
+  X(TextureCoordinate2) \
+  X(Transform) \
+  X(TransformSeparator) \
+  X(Translation) \
+  X(UnknownNode) \
+  X(UseStatement) \
+  X(WWWAnchor) \
+  X(WWWInline)
+
+enum class NodeKind : int {
+  kOther,
+#define LUMERIC_KIND(name) k##name,
+  LUMERIC_EXPORT_NODE_CLASSES(LUMERIC_KIND)
+#undef LUMERIC_KIND
+};
+
+namespace {
+
+template <class T>
+struct KindOf;
+#define LUMERIC_KIND_OF(name)                                       \
+  template <>                                                       \
+  struct KindOf<Qv##name> {                                         \
+    static constexpr NodeKind value = NodeKind::k##name;            \
+  };
+LUMERIC_EXPORT_NODE_CLASSES(LUMERIC_KIND_OF)
+#undef LUMERIC_KIND_OF
+
+NodeKind kindOf(QvNode* node) {
+  static const std::unordered_map<std::type_index, NodeKind> kinds{
+#define LUMERIC_KIND_ENTRY(name) {std::type_index(typeid(Qv##name)), NodeKind::k##name},
+      LUMERIC_EXPORT_NODE_CLASSES(LUMERIC_KIND_ENTRY)
+#undef LUMERIC_KIND_ENTRY
+  };
+  auto found = kinds.find(std::type_index(typeid(*node)));
+  return found == kinds.end() ? NodeKind::kOther : found->second;
+}
+
+// The node as class T when it is exactly of that class, else null.
+template <class T>
+T* nodeAs(QvNode* node, NodeKind kind) {
+  return kind == KindOf<T>::value ? static_cast<T*>(node) : nullptr;
+}
+
+}  // namespace
 
 namespace {
 
@@ -128,47 +208,48 @@ void SceneTraversal::visit(QvNode* node, TraversalState& state) {
     messages_.warning("The scene is too large to export whole; the rest of it is left out");
     return;
   }
-  if (onPath_.size() >= kMaxDepth || onPath_.count(node) != 0) return;
+  if (path_.size() >= kMaxDepth) return;
   if (node->hasName()) {
     const char* name = node->getName();
     if (name != nullptr) names_[name] = node;
   }
-  onPath_.insert(node);
-  if (auto* use = dynamic_cast<QvUseStatement*>(node)) {
+  const NodeKind kind = kindOf(node);
+  path_.push_back(node);
+  if (auto* use = nodeAs<QvUseStatement>(node, kind)) {
     visitUse(*use, state);
-  } else if (!visitGroup(node, state) && !visitTransformation(node, state) && !visitProperty(node, state) &&
-             !visitShape(node, state)) {
-    visitCameraOrLight(node, state);
+  } else if (!visitGroup(node, kind, state) && !visitTransformation(node, kind, state) &&
+             !visitProperty(node, kind, state) && !visitShape(node, kind, state)) {
+    visitCameraOrLight(node, kind, state);
   }
-  onPath_.erase(node);
+  path_.pop_back();
 }
 
 void SceneTraversal::visitChildren(QvGroupNode* group, TraversalState& state) {
   for (int i = 0; i < group->getNumChildren(); ++i) visit(group->getChild(i), state);
 }
 
-bool SceneTraversal::visitGroup(QvNode* node, TraversalState& state) {
-  if (!node->isGroup() || dynamic_cast<QvUnknownNode*>(node) != nullptr) return false;
+bool SceneTraversal::visitGroup(QvNode* node, NodeKind kind, TraversalState& state) {
+  if (!node->isGroup() || nodeAs<QvUnknownNode>(node, kind) != nullptr || kind == NodeKind::kOther) return false;
   auto* group = static_cast<QvGroupNode*>(node);
   const std::string outerName = state.groupName;
   if (node->hasName() && node->getName() != nullptr) state.groupName = node->getName();
-  if (dynamic_cast<QvSeparator*>(node) != nullptr) {
+  if (nodeAs<QvSeparator>(node, kind) != nullptr) {
     TraversalState inner = state;
     visitChildren(group, inner);
-  } else if (dynamic_cast<QvTransformSeparator*>(node) != nullptr) {
+  } else if (nodeAs<QvTransformSeparator>(node, kind) != nullptr) {
     const Matrix4 saved = state.matrix;
     visitChildren(group, state);
     state.matrix = saved;
-  } else if (auto* choice = dynamic_cast<QvSwitch*>(node)) {
+  } else if (auto* choice = nodeAs<QvSwitch>(node, kind)) {
     const double which = numberIn(choice->whichChild);
     if (which == -3) {
       visitChildren(group, state);
     } else if (which >= 0 && which < group->getNumChildren()) {
       visit(group->getChild(static_cast<int>(which)), state);
     }
-  } else if (dynamic_cast<QvLOD*>(node) != nullptr) {
+  } else if (nodeAs<QvLOD>(node, kind) != nullptr) {
     if (group->getNumChildren() > 0) visit(group->getChild(0), state);
-  } else if (auto* inlined = dynamic_cast<QvWWWInline*>(node)) {
+  } else if (auto* inlined = nodeAs<QvWWWInline>(node, kind)) {
     visitInline(*inlined, state);
   } else {
     // Group, WWWAnchor.
@@ -178,18 +259,18 @@ bool SceneTraversal::visitGroup(QvNode* node, TraversalState& state) {
   return true;
 }
 
-bool SceneTraversal::visitTransformation(QvNode* node, TraversalState& state) {
+bool SceneTraversal::visitTransformation(QvNode* node, NodeKind kind, TraversalState& state) {
   Matrix4 m;
-  if (auto* t = dynamic_cast<QvTransform*>(node)) {
+  if (auto* t = nodeAs<QvTransform>(node, kind)) {
     m = transformMatrix(*t);
-  } else if (auto* t = dynamic_cast<QvTranslation*>(node)) {
+  } else if (auto* t = nodeAs<QvTranslation>(node, kind)) {
     m = translationMatrix(vec3(componentsIn<3>(t->translation)));
-  } else if (auto* r = dynamic_cast<QvRotation*>(node)) {
+  } else if (auto* r = nodeAs<QvRotation>(node, kind)) {
     const auto v = componentsIn<4>(r->rotation);
     m = rotationMatrix(Vec3{{v[0], v[1], v[2]}}, v[3]);
-  } else if (auto* s = dynamic_cast<QvScale*>(node)) {
+  } else if (auto* s = nodeAs<QvScale>(node, kind)) {
     m = scaleMatrix(vec3(componentsIn<3>(s->scaleFactor)));
-  } else if (auto* mt = dynamic_cast<QvMatrixTransform*>(node)) {
+  } else if (auto* mt = nodeAs<QvMatrixTransform>(node, kind)) {
     const auto v = componentsIn<16>(mt->matrix);
     double numbers[16];
     for (int k = 0; k < 16; ++k) numbers[k] = v[static_cast<size_t>(k)];
@@ -201,8 +282,8 @@ bool SceneTraversal::visitTransformation(QvNode* node, TraversalState& state) {
   return true;
 }
 
-bool SceneTraversal::visitProperty(QvNode* node, TraversalState& state) {
-  if (auto* material = dynamic_cast<QvMaterial*>(node)) {
+bool SceneTraversal::visitProperty(QvNode* node, NodeKind kind, TraversalState& state) {
+  if (auto* material = nodeAs<QvMaterial>(node, kind)) {
     state.material = cached(materialValues_, node, [&] {
       MaterialValues values;
       values.name = node->hasName() && node->getName() != nullptr ? node->getName() : "";
@@ -214,40 +295,40 @@ bool SceneTraversal::visitProperty(QvNode* node, TraversalState& state) {
       values.transparency = floatsOf(numbersIn(material->transparency));
       return values;
     });
-  } else if (auto* binding = dynamic_cast<QvMaterialBinding*>(node)) {
+  } else if (auto* binding = nodeAs<QvMaterialBinding>(node, kind)) {
     state.materialBinding = binding->value.value;
-  } else if (auto* normalBinding = dynamic_cast<QvNormalBinding*>(node)) {
+  } else if (auto* normalBinding = nodeAs<QvNormalBinding>(node, kind)) {
     state.normalBinding = normalBinding->value.value;
-  } else if (auto* coordinates = dynamic_cast<QvCoordinate3*>(node)) {
+  } else if (auto* coordinates = nodeAs<QvCoordinate3>(node, kind)) {
     state.coordinates = cached(points_, node, [&] { return floatsOf(numbersIn(coordinates->point)); });
-  } else if (auto* normals = dynamic_cast<QvNormal*>(node)) {
+  } else if (auto* normals = nodeAs<QvNormal>(node, kind)) {
     state.normals = cached(points_, node, [&] { return floatsOf(numbersIn(normals->vector)); });
     state.normalsGiven = true;
-  } else if (auto* texCoords = dynamic_cast<QvTextureCoordinate2*>(node)) {
+  } else if (auto* texCoords = nodeAs<QvTextureCoordinate2>(node, kind)) {
     state.textureCoordinates = cached(points_, node, [&] { return floatsOf(numbersIn(texCoords->point)); });
     state.textureCoordinatesGiven = true;
-  } else if (auto* hints = dynamic_cast<QvShapeHints*>(node)) {
+  } else if (auto* hints = nodeAs<QvShapeHints>(node, kind)) {
     state.vertexOrdering = hints->vertexOrdering.value;
     state.shapeType = hints->shapeType.value;
     state.faceType = hints->faceType.value;
     state.creaseAngle = static_cast<float>(numberIn(hints->creaseAngle));
-  } else if (auto* texture = dynamic_cast<QvTexture2*>(node)) {
+  } else if (auto* texture = nodeAs<QvTexture2>(node, kind)) {
     state.texture = textures_.textureOf(*texture, directories_.back());
-  } else if (auto* transform = dynamic_cast<QvTexture2Transform*>(node)) {
+  } else if (auto* transform = nodeAs<QvTexture2Transform>(node, kind)) {
     const auto t = componentsIn<2>(transform->translation);
     const auto s = componentsIn<2>(transform->scaleFactor);
     const auto c = componentsIn<2>(transform->center);
     const double translation[2] = {t[0], t[1]}, scale[2] = {s[0], s[1]}, center[2] = {c[0], c[1]};
     state.textureTransform = multiply3(
         state.textureTransform, textureTransformMatrix(translation, numberIn(transform->rotation), scale, center));
-  } else if (auto* unknown = dynamic_cast<QvUnknownNode*>(node)) {
+  } else if (auto* unknown = nodeAs<QvUnknownNode>(node, kind)) {
     // Complexity is no class of the reader's; a scene may still declare it.
     if (std::strcmp(unknown->getClassName(), "Complexity") == 0) {
       if (auto* value = dynamic_cast<QvSFFloat*>(unknown->findDeclaredField("value"))) {
         state.complexity = static_cast<float>(numberIn(*value));
       }
     }
-  } else if (dynamic_cast<QvAsciiText*>(node) != nullptr) {
+  } else if (nodeAs<QvAsciiText>(node, kind) != nullptr) {
     if (!textWarned_) messages_.warning("AsciiText is not exported");
     textWarned_ = true;
   } else {
@@ -256,21 +337,45 @@ bool SceneTraversal::visitProperty(QvNode* node, TraversalState& state) {
   return true;
 }
 
-bool SceneTraversal::visitShape(QvNode* node, TraversalState& state) {
-  if (auto* cube = dynamic_cast<QvCube*>(node)) {
-    place(node, state, [cube](ShapeContext& c) { return cubeMesh(*cube, c); });
-  } else if (auto* sphere = dynamic_cast<QvSphere*>(node)) {
-    place(node, state, [sphere](ShapeContext& c) { return sphereMesh(*sphere, c); });
-  } else if (auto* cone = dynamic_cast<QvCone*>(node)) {
-    place(node, state, [cone](ShapeContext& c) { return coneMesh(*cone, c); });
-  } else if (auto* cylinder = dynamic_cast<QvCylinder*>(node)) {
-    place(node, state, [cylinder](ShapeContext& c) { return cylinderMesh(*cylinder, c); });
-  } else if (auto* faces = dynamic_cast<QvIndexedFaceSet*>(node)) {
-    place(node, state, [faces](ShapeContext& c) { return indexedFaceSetMesh(*faces, c); });
-  } else if (auto* lines = dynamic_cast<QvIndexedLineSet*>(node)) {
-    place(node, state, [lines](ShapeContext& c) { return indexedLineSetMesh(*lines, c); });
-  } else if (auto* points = dynamic_cast<QvPointSet*>(node)) {
-    place(node, state, [points](ShapeContext& c) { return pointSetMesh(*points, c); });
+namespace {
+
+// What makes a primitive's mesh: its class and its field values, so that
+// equal primitives (a generator's many copies) share one mesh.
+template <class... Numbers>
+std::string primitiveIdentity(const char* kind, Numbers... numbers) {
+  std::string identity = kind;
+  for (double v : {static_cast<double>(numbers)...}) identity.append(reinterpret_cast<const char*>(&v), sizeof v);
+  return identity;
+}
+
+// Any other shape's mesh is made from the node itself.
+std::string nodeIdentity(const QvNode* node) {
+  return std::string(reinterpret_cast<const char*>(&node), sizeof node);
+}
+
+}  // namespace
+
+bool SceneTraversal::visitShape(QvNode* node, NodeKind kind, TraversalState& state) {
+  if (auto* cube = nodeAs<QvCube>(node, kind)) {
+    place(node, primitiveIdentity("Cube", numberIn(cube->width), numberIn(cube->height), numberIn(cube->depth)),
+          state, [cube](ShapeContext& c) { return cubeMesh(*cube, c); });
+  } else if (auto* sphere = nodeAs<QvSphere>(node, kind)) {
+    place(node, primitiveIdentity("Sphere", numberIn(sphere->radius)), state,
+          [sphere](ShapeContext& c) { return sphereMesh(*sphere, c); });
+  } else if (auto* cone = nodeAs<QvCone>(node, kind)) {
+    place(node,
+          primitiveIdentity("Cone", cone->parts.value, numberIn(cone->bottomRadius), numberIn(cone->height)), state,
+          [cone](ShapeContext& c) { return coneMesh(*cone, c); });
+  } else if (auto* cylinder = nodeAs<QvCylinder>(node, kind)) {
+    place(node,
+          primitiveIdentity("Cylinder", cylinder->parts.value, numberIn(cylinder->radius), numberIn(cylinder->height)),
+          state, [cylinder](ShapeContext& c) { return cylinderMesh(*cylinder, c); });
+  } else if (auto* faces = nodeAs<QvIndexedFaceSet>(node, kind)) {
+    place(node, nodeIdentity(node), state, [faces](ShapeContext& c) { return indexedFaceSetMesh(*faces, c); });
+  } else if (auto* lines = nodeAs<QvIndexedLineSet>(node, kind)) {
+    place(node, nodeIdentity(node), state, [lines](ShapeContext& c) { return indexedLineSetMesh(*lines, c); });
+  } else if (auto* points = nodeAs<QvPointSet>(node, kind)) {
+    place(node, nodeIdentity(node), state, [points](ShapeContext& c) { return pointSetMesh(*points, c); });
   } else {
     return false;
   }
@@ -282,8 +387,9 @@ std::string SceneTraversal::nameFor(QvNode* node, const TraversalState& state) {
   return state.groupName;
 }
 
-void SceneTraversal::place(QvNode* shape, TraversalState& state, const MeshMaker& make) {
-  const auto key = std::make_pair(static_cast<const QvNode*>(shape), state.shapeKey());
+void SceneTraversal::place(QvNode* shape, const std::string& identity, TraversalState& state,
+                           const MeshMaker& make) {
+  const std::string key = identity + state.shapeKey();
   auto found = meshes_.find(key);
   int mesh = -1;
   if (found != meshes_.end()) {
@@ -315,7 +421,7 @@ void SceneTraversal::addNode(QvNode* node, const TraversalState& state, const Ma
   scene_.nodes.push_back(std::move(placed));
 }
 
-bool SceneTraversal::visitCameraOrLight(QvNode* node, TraversalState& state) {
+bool SceneTraversal::visitCameraOrLight(QvNode* node, NodeKind kind, TraversalState& state) {
   auto cameraMatrix = [&](const std::array<double, 3>& position, const std::array<double, 4>& orientation) {
     return multiply(multiply(state.matrix, translationMatrix(position)),
                     rotationMatrix(Vec3{{orientation[0], orientation[1], orientation[2]}}, orientation[3]));
@@ -323,7 +429,7 @@ bool SceneTraversal::visitCameraOrLight(QvNode* node, TraversalState& state) {
   auto color = [](const std::array<double, 3>& c) {
     return std::array<float, 3>{{static_cast<float>(c[0]), static_cast<float>(c[1]), static_cast<float>(c[2])}};
   };
-  if (auto* p = dynamic_cast<QvPerspectiveCamera*>(node)) {
+  if (auto* p = nodeAs<QvPerspectiveCamera>(node, kind)) {
     ExportCamera camera;
     camera.name = nameFor(node, state);
     camera.perspective = true;
@@ -331,7 +437,7 @@ bool SceneTraversal::visitCameraOrLight(QvNode* node, TraversalState& state) {
     scene_.cameras.push_back(camera);
     addNode(node, state, cameraMatrix(componentsIn<3>(p->position), componentsIn<4>(p->orientation)),
             static_cast<int>(scene_.cameras.size()) - 1, -1);
-  } else if (auto* o = dynamic_cast<QvOrthographicCamera*>(node)) {
+  } else if (auto* o = nodeAs<QvOrthographicCamera>(node, kind)) {
     ExportCamera camera;
     camera.name = nameFor(node, state);
     camera.perspective = false;
@@ -339,7 +445,7 @@ bool SceneTraversal::visitCameraOrLight(QvNode* node, TraversalState& state) {
     scene_.cameras.push_back(camera);
     addNode(node, state, cameraMatrix(componentsIn<3>(o->position), componentsIn<4>(o->orientation)),
             static_cast<int>(scene_.cameras.size()) - 1, -1);
-  } else if (auto* d = dynamic_cast<QvDirectionalLight*>(node)) {
+  } else if (auto* d = nodeAs<QvDirectionalLight>(node, kind)) {
     ExportLight light;
     light.name = nameFor(node, state);
     light.type = LightType::kDirectional;
@@ -349,7 +455,7 @@ bool SceneTraversal::visitCameraOrLight(QvNode* node, TraversalState& state) {
     scene_.lights.push_back(light);
     addNode(node, state, multiply(state.matrix, rotationFromMinusZ(componentsIn<3>(d->direction))), -1,
             static_cast<int>(scene_.lights.size()) - 1);
-  } else if (auto* p = dynamic_cast<QvPointLight*>(node)) {
+  } else if (auto* p = nodeAs<QvPointLight>(node, kind)) {
     ExportLight light;
     light.name = nameFor(node, state);
     light.type = LightType::kPoint;
@@ -359,7 +465,7 @@ bool SceneTraversal::visitCameraOrLight(QvNode* node, TraversalState& state) {
     scene_.lights.push_back(light);
     addNode(node, state, multiply(state.matrix, translationMatrix(componentsIn<3>(p->location))), -1,
             static_cast<int>(scene_.lights.size()) - 1);
-  } else if (auto* s = dynamic_cast<QvSpotLight*>(node)) {
+  } else if (auto* s = nodeAs<QvSpotLight>(node, kind)) {
     ExportLight light;
     light.name = nameFor(node, state);
     light.type = LightType::kSpot;
@@ -382,7 +488,12 @@ void SceneTraversal::visitUse(QvUseStatement& use, TraversalState& state) {
   const char* text = use.expression().text();
   if (text == nullptr || std::strncmp(text, "use ", 4) != 0) return;
   auto found = names_.find(text + 4);
-  if (found != names_.end()) visit(found->second, state);
+  if (found == names_.end()) return;
+  // A node cannot contain itself: a USE of an enclosing node is left out.
+  for (const QvNode* enclosing : path_) {
+    if (enclosing == found->second) return;
+  }
+  visit(found->second, state);
 }
 
 void SceneTraversal::visitInline(QvWWWInline& node, TraversalState& state) {

@@ -2,7 +2,7 @@
 // ExportScene: grouping nodes save and restore the state as VRML 1.0 says,
 // property nodes change it, shapes become meshes placed by nodes, cameras
 // and lights become nodes of their own.  A shape met again under the same
-// state (through USE) reuses its mesh.
+// state (through USE) reuses its mesh, as does an equal primitive.
 #ifndef LUMERIC_EXPORT_SCENETRAVERSAL_H
 #define LUMERIC_EXPORT_SCENETRAVERSAL_H
 
@@ -12,6 +12,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -29,6 +30,7 @@ class QvGroupNode;
 class QvNode;
 class QvUseStatement;
 class QvWWWInline;
+enum class NodeKind : int;
 
 class SceneTraversal {
  public:
@@ -43,14 +45,16 @@ class SceneTraversal {
 
   void visit(QvNode* node, TraversalState& state);
   void visitChildren(QvGroupNode* group, TraversalState& state);
-  bool visitGroup(QvNode* node, TraversalState& state);
-  bool visitTransformation(QvNode* node, TraversalState& state);
-  bool visitProperty(QvNode* node, TraversalState& state);
-  bool visitShape(QvNode* node, TraversalState& state);
-  bool visitCameraOrLight(QvNode* node, TraversalState& state);
+  bool visitGroup(QvNode* node, NodeKind kind, TraversalState& state);
+  bool visitTransformation(QvNode* node, NodeKind kind, TraversalState& state);
+  bool visitProperty(QvNode* node, NodeKind kind, TraversalState& state);
+  bool visitShape(QvNode* node, NodeKind kind, TraversalState& state);
+  bool visitCameraOrLight(QvNode* node, NodeKind kind, TraversalState& state);
   void visitUse(QvUseStatement& use, TraversalState& state);
   void visitInline(QvWWWInline& node, TraversalState& state);
-  void place(QvNode* shape, TraversalState& state, const MeshMaker& make);
+  // Places the mesh of `shape`, made by `make` unless a shape of the same
+  // identity was met under the same state.
+  void place(QvNode* shape, const std::string& identity, TraversalState& state, const MeshMaker& make);
   std::string nameFor(QvNode* node, const TraversalState& state);
   void addNode(QvNode* node, const TraversalState& state, const Matrix4& matrix, int camera, int light);
 
@@ -67,16 +71,16 @@ class SceneTraversal {
   std::vector<std::string> directories_;
   // DEF names in force, by name: the last node so named before here.
   std::map<std::string, QvNode*> names_;
-  // Meshes made, by shape and state.
-  std::map<std::pair<const QvNode*, std::string>, int> meshes_;
+  // Meshes made, by shape identity and state.
+  std::unordered_map<std::string, int> meshes_;
   std::map<const QvNode*, std::shared_ptr<const MaterialValues>> materialValues_;
   std::map<const QvNode*, std::shared_ptr<const Points>> points_;
   // Inlined files: their roots by path, those being traversed, their names.
   std::map<std::string, QvNode*> inlineRoots_;
   std::set<std::string> inlining_;
   std::deque<std::string> inlineNames_;
-  // Nodes being visited, against a USE of an enclosing node.
-  std::set<const QvNode*> onPath_;
+  // The nodes being visited, outermost first.
+  std::vector<const QvNode*> path_;
   long visits_ = 0;
   bool budgetSpent_ = false;
   bool textWarned_ = false;
