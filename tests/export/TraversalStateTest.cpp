@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "export/ExportFixture.h"
+#include "core/RunState.h"
 #include "export/Matrices.h"
 
 namespace lumeric {
@@ -192,6 +193,36 @@ TEST(ExportInline, MissingFileAndSelfInclusionEndQuietly) {
   const ExportRun run = exportText(
       plainScene("Group { WWWInline { name \"self.wrl\" } WWWInline { name \"missing.wrl\" } }"), ExportOptions(), &dir);
   EXPECT_NE(run.messages.find("Cannot read WWWInline file"), std::string::npos) << run.messages;
+  EXPECT_EQ(run.scene.nodes.size(), 1u);
+}
+
+TEST(ExportInline, ConfinementRefusesFilesOutsideTheInputsDirectory) {
+  ScratchDir outer;
+  outer.write("outside.wrl", plainScene("Cube {}"));
+  outer.write("scene/inside.wrl", plainScene("Sphere {}"));
+  theRun.limits.confine = true;
+  const ExportRun run = exportText(
+      plainScene("Group { WWWInline { name \"../outside.wrl\" } WWWInline { name \"inside.wrl\" } }"), ExportOptions(),
+      &outer, "scene/main.wrl");
+  EXPECT_FALSE(theRun.limits.confine);
+  EXPECT_NE(run.messages.find("outside.wrl left out"), std::string::npos) << run.messages;
+  ASSERT_EQ(run.scene.nodes.size(), 1u);
+  EXPECT_NEAR(figuresOf(run.scene).high[1], 1, 1e-6);  // the sphere only
+}
+
+TEST(ExportScene, CoordinatesReplacedMidwayServeTheShapesAfterThem) {
+  const ExportRun run = exportText(plainScene(
+      "Separator { Coordinate3 { point [ 0 0 0, 1 0 0, 0 1 0 ] } IndexedFaceSet { coordIndex [ 0, 1, 2 ] }"
+      " Coordinate3 { point [ 5 0 0, 7 0 0, 5 2 0 ] } IndexedFaceSet { coordIndex [ 0, 1, 2 ] } }"));
+  const Figures f = figuresOf(run.scene);
+  EXPECT_NEAR(f.area, 0.5 + 2, 1e-9);
+  EXPECT_EQ(f.high, (std::array<double, 3>{{7, 2, 0}}));
+}
+
+TEST(ExportScene, AsciiTextIsLeftOutWithOneWarning) {
+  const ExportRun run =
+      exportText(plainScene("Separator { AsciiText { string \"a\" } Cube {} AsciiText { string \"b\" } }"));
+  EXPECT_EQ(run.messages, "Warning: AsciiText is not exported\n");
   EXPECT_EQ(run.scene.nodes.size(), 1u);
 }
 
