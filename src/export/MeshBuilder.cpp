@@ -55,25 +55,6 @@ void MeshBuilder::triangle(int material, const Corner& a, const Corner& b, const
   p.primitive.indices.insert(p.primitive.indices.end(), {ia, ib, ic});
 }
 
-void MeshBuilder::orientedTriangle(int material, const Corner& a, const Corner& b, const Corner& c) {
-  float u[3], v[3], n[3];
-  for (int k = 0; k < 3; ++k) {
-    u[k] = b.position[k] - a.position[k];
-    v[k] = c.position[k] - a.position[k];
-  }
-  n[0] = u[1] * v[2] - u[2] * v[1];
-  n[1] = u[2] * v[0] - u[0] * v[2];
-  n[2] = u[0] * v[1] - u[1] * v[0];
-  if (n[0] == 0 && n[1] == 0 && n[2] == 0) return;
-  float agreement = 0;
-  for (int k = 0; k < 3; ++k) agreement += n[k] * (a.normal[k] + b.normal[k] + c.normal[k]);
-  if (agreement < 0) {
-    triangle(material, a, c, b);
-  } else {
-    triangle(material, a, b, c);
-  }
-}
-
 void MeshBuilder::segment(int material, const Corner& a, const Corner& b) {
   Part& p = part(material, PrimitiveMode::kLines);
   const uint32_t ia = vertex(p, a), ib = vertex(p, b);

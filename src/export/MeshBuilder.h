@@ -31,9 +31,6 @@ class MeshBuilder {
 
   // A triangle, wound as given.
   void triangle(int material, const Corner& a, const Corner& b, const Corner& c);
-  // A triangle turned, when needed, so that its winding agrees with the
-  // mean of its corners' normals; nothing when it has no area.
-  void orientedTriangle(int material, const Corner& a, const Corner& b, const Corner& c);
   void segment(int material, const Corner& a, const Corner& b);
   void point(int material, const Corner& a);
 

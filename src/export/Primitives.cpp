@@ -40,8 +40,18 @@ class PrimitiveBuilder {
     }
     return c;
   }
+  // The corners are given counter-clockwise seen from outside for
+  // positive sizes; negative sizes mirror the shape, as a viewer draws it.
+  // A triangle without area (at a pole, of a zero size) is left out.
   void triangle(int material, const Corner& a, const Corner& b, const Corner& c) {
-    builder_.orientedTriangle(material, a, b, c);
+    float u[3], v[3];
+    for (int k = 0; k < 3; ++k) {
+      u[k] = b.position[k] - a.position[k];
+      v[k] = c.position[k] - a.position[k];
+    }
+    const float n[3] = {u[1] * v[2] - u[2] * v[1], u[2] * v[0] - u[0] * v[2], u[0] * v[1] - u[1] * v[0]};
+    if (n[0] == 0 && n[1] == 0 && n[2] == 0) return;
+    builder_.triangle(material, a, b, c);
   }
   void quad(int material, const Corner& a, const Corner& b, const Corner& c, const Corner& d) {
     triangle(material, a, b, c);
@@ -70,8 +80,15 @@ void disc(PrimitiveBuilder& b, int material, double radius, double y, double up,
     const double x0 = radius * aroundX(s0), z0 = radius * aroundZ(s0);
     const double x1 = radius * aroundX(s1), z1 = radius * aroundZ(s1);
     const double tSign = up > 0 ? -1 : 1;
-    b.triangle(material, centre, b.corner(x0, y, z0, 0, up, 0, 0.5 + aroundX(s0) / 2, 0.5 + tSign * aroundZ(s0) / 2),
-               b.corner(x1, y, z1, 0, up, 0, 0.5 + aroundX(s1) / 2, 0.5 + tSign * aroundZ(s1) / 2));
+    const Corner first = b.corner(x0, y, z0, 0, up, 0, 0.5 + aroundX(s0) / 2, 0.5 + tSign * aroundZ(s0) / 2);
+    const Corner second = b.corner(x1, y, z1, 0, up, 0, 0.5 + aroundX(s1) / 2, 0.5 + tSign * aroundZ(s1) / 2);
+    // Around the axis from the back the points turn counter-clockwise seen
+    // from above.
+    if (up > 0) {
+      b.triangle(material, centre, first, second);
+    } else {
+      b.triangle(material, centre, second, first);
+    }
   }
 }
 

@@ -224,6 +224,17 @@ void SceneTraversal::visit(QvNode* node, TraversalState& state) {
   path_.pop_back();
 }
 
+void SceneTraversal::defineNames(QvNode* node) {
+  if (node == nullptr || budgetSpent_ || ++visits_ > options_.maxVisits) return;
+  if (node->hasName()) {
+    const char* name = node->getName();
+    if (name != nullptr) names_[name] = node;
+  }
+  if (!node->isGroup()) return;
+  auto* group = static_cast<QvGroupNode*>(node);
+  for (int i = 0; i < group->getNumChildren(); ++i) defineNames(group->getChild(i));
+}
+
 void SceneTraversal::visitChildren(QvGroupNode* group, TraversalState& state) {
   for (int i = 0; i < group->getNumChildren(); ++i) visit(group->getChild(i), state);
 }
@@ -241,14 +252,28 @@ bool SceneTraversal::visitGroup(QvNode* node, NodeKind kind, TraversalState& sta
     visitChildren(group, state);
     state.matrix = saved;
   } else if (auto* choice = nodeAs<QvSwitch>(node, kind)) {
-    const double which = numberIn(choice->whichChild);
+    double which = numberIn(choice->whichChild);
+    if (which == -2) which = state.switchChoice;
+    state.switchChoice = which;
     if (which == -3) {
       visitChildren(group, state);
-    } else if (which >= 0 && which < group->getNumChildren()) {
-      visit(group->getChild(static_cast<int>(which)), state);
+    } else {
+      for (int i = 0; i < group->getNumChildren(); ++i) {
+        if (i == which) {
+          visit(group->getChild(i), state);
+        } else {
+          defineNames(group->getChild(i));
+        }
+      }
     }
   } else if (nodeAs<QvLOD>(node, kind) != nullptr) {
-    if (group->getNumChildren() > 0) visit(group->getChild(0), state);
+    for (int i = 0; i < group->getNumChildren(); ++i) {
+      if (i == 0) {
+        visit(group->getChild(i), state);
+      } else {
+        defineNames(group->getChild(i));
+      }
+    }
   } else if (auto* inlined = nodeAs<QvWWWInline>(node, kind)) {
     visitInline(*inlined, state);
   } else {

@@ -45,6 +45,9 @@ class SceneTraversal {
 
   void visit(QvNode* node, TraversalState& state);
   void visitChildren(QvGroupNode* group, TraversalState& state);
+  // The DEF names of a subtree that is not shown (a Switch's other
+  // children), which later USEs may name.
+  void defineNames(QvNode* node);
   bool visitGroup(QvNode* node, NodeKind kind, TraversalState& state);
   bool visitTransformation(QvNode* node, NodeKind kind, TraversalState& state);
   bool visitProperty(QvNode* node, NodeKind kind, TraversalState& state);

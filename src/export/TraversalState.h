@@ -77,6 +77,9 @@ struct TraversalState {
   std::array<float, 9> textureTransform{{1, 0, 0, 0, 1, 0, 0, 0, 1}};
 
   float complexity = 0.5f;
+  // The choice of the last Switch met, which a Switch whose whichChild is
+  // -2 (inherit) takes over.
+  double switchChoice = -1;
   // The DEF name of the innermost named group, for the nodes it places.
   std::string groupName;
 
