@@ -135,6 +135,18 @@ TEST(ExportInstancing, UseUnderTheSameStateSharesTheMesh) {
   EXPECT_EQ(run.scene.meshes.size(), 3u);
 }
 
+TEST(ExportInstancing, EqualPrimitivesShareOneMesh) {
+  // A generator's copies are distinct nodes with equal fields.
+  const ExportRun run = exportText(
+      "#VRML V1.0 ascii\nSeparator { LOOP { fields [ SFFloat start, SFFloat end, SFFloat step, SFFloat position ]"
+      " start 0 end 4 step 1 position 0 Separator { Translation { translation =(position*3, 0, 0) } Sphere { } }"
+      " Sphere { radius 2 } } }\n",
+      ExportOptions(), nullptr, "scene.vlm");
+  ASSERT_EQ(run.scene.nodes.size(), 8u);
+  EXPECT_EQ(run.scene.meshes.size(), 2u);
+  EXPECT_NEAR(run.scene.nodes[6].matrix[12], 9, 1e-12);
+}
+
 TEST(ExportInstancing, UseOfAnEnclosingNodeEnds) {
   const ExportRun run = exportText(plainScene("DEF A Separator { Cube {} DEF B Group { Sphere {} } USE B }"));
   EXPECT_EQ(run.scene.nodes.size(), 3u);
