@@ -3,7 +3,8 @@
 # Debian packages only; needs root (or sudo) the first time.
 set -euo pipefail
 
-packages=(cmake g++ make bison libgtest-dev libcoin-dev binutils pkg-config groff-base)
+packages=(cmake g++ make bison libgtest-dev libcoin-dev binutils pkg-config groff-base
+  libglu1-mesa-dev libstb-dev)
 # `install-deps.sh fuzz` adds clang and its libFuzzer runtime;
 # `install-deps.sh bench` adds Google Benchmark, which only `make bench` uses.
 case "${1:-}" in
