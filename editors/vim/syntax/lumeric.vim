@@ -50,7 +50,7 @@ syn case match
 syn match lumericField "\%([^[:space:]{\]]\)\@<!\l\w*\ze[ \t]\+[^[:space:]}#,\]]"
 
 " A value that starts with = is one expression for the whole field.
-syn match lumericAssign "\S\@<!==\@!"
+syn match lumericAssign "\%([^[:space:][,]\)\@<!==\@!"
 
 syn region lumericGroup matchgroup=lumericParen start="(" end=")" oneline contains=@lumericExpression
 syn region lumericNamePart matchgroup=lumericBackquote start="`" end="`" oneline contains=@lumericExpression
