@@ -5,6 +5,7 @@
 set -u
 lumeric=$1
 out=$2
+case $out in /*) ;; *) out=$PWD/$out ;; esac
 here=$(cd "$(dirname "$0")" && pwd)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
