@@ -6,6 +6,7 @@
 //   vrml1check canon FILE [--first] [--all-fields]
 //   vrml1check compare A B [--tolerance T] [--first-b]
 //   vrml1check roundtrip FILE
+//   vrml1check figures FILE [--complexity C]   (JSON; see SceneFigures.cpp)
 //
 // Exit status: 0 success, 1 a read error or (compare) a difference, 2 usage.
 #include <Inventor/SoDB.h>
@@ -19,6 +20,7 @@
 #include <Inventor/lists/SoFieldList.h>
 #include <Inventor/misc/SoChildList.h>
 #include <Inventor/nodes/SoNode.h>
+#include <Inventor/nodes/SoWWWInline.h>
 
 #include <algorithm>
 #include <cctype>
@@ -30,6 +32,8 @@
 #include <set>
 #include <string>
 #include <vector>
+
+#include "SceneFigures.h"
 
 #if defined(__SANITIZE_ADDRESS__)
 #include <sanitizer/lsan_interface.h>
@@ -61,7 +65,8 @@ const char kUsage[] =
     "usage: vrml1check read FILE\n"
     "       vrml1check canon FILE [--first] [--all-fields]\n"
     "       vrml1check compare A B [--tolerance T] [--first-b]\n"
-    "       vrml1check roundtrip FILE\n";
+    "       vrml1check roundtrip FILE\n"
+    "       vrml1check figures FILE [--complexity C]\n";
 
 // ---------------------------------------------------------------------------
 // Loading
@@ -464,6 +469,26 @@ int runRoundtrip(const char* path) {
   return kExitOk;
 }
 
+// WWWInline children are read from local files (relative names from the
+// scene's directory), as the exporter reads them; a name that cannot be read
+// leaves the node empty.
+std::string directoryOf(const std::string& path) {
+  size_t slash = path.rfind('/');
+  return slash == std::string::npos ? std::string(".") : path.substr(0, slash);
+}
+
+int runFigures(const char* path, double complexity) {
+  SoWWWInline::setReadAsSoFile(TRUE);
+  SoInput::addDirectoryFirst(directoryOf(path).c_str());
+  Scene scene;
+  if (!loadScene(path, scene)) return kExitFailed;
+  figures::Options options;
+  options.complexity = complexity;
+  std::string json = figures::computeJson(scene.roots, options);
+  std::fwrite(json.data(), 1, json.size(), stdout);
+  return kExitOk;
+}
+
 bool parseTolerance(const char* text, double& tolerance) {
   char* end = nullptr;
   tolerance = std::strtod(text, &end);
@@ -486,6 +511,7 @@ int main(int argc, char** argv) {
   bool firstOfB = false;
   bool allFields = false;
   double tolerance = 1e-4;
+  double complexity = -1;
   for (int i = 2; i < argc; ++i) {
     std::string arg = argv[i];
     if (arg == "--first" && command == "canon") {
@@ -496,6 +522,8 @@ int main(int argc, char** argv) {
       firstOfB = true;
     } else if (arg == "--tolerance" && command == "compare" && i + 1 < argc) {
       if (!parseTolerance(argv[++i], tolerance)) return usage();
+    } else if (arg == "--complexity" && command == "figures" && i + 1 < argc) {
+      if (!parseTolerance(argv[++i], complexity) || complexity > 1) return usage();
     } else if (arg.size() > 1 && arg[0] == '-') {
       return usage();
     } else {
@@ -510,5 +538,6 @@ int main(int argc, char** argv) {
     return runCompare(files[0].c_str(), files[1].c_str(), tolerance, firstOfB);
   }
   if (command == "roundtrip" && files.size() == 1) return runRoundtrip(files[0].c_str());
+  if (command == "figures" && files.size() == 1) return runFigures(files[0].c_str(), complexity);
   return usage();
 }
