@@ -32,11 +32,14 @@
 //                     figures above that comes from those shapes
 //   text              {"shapes", "triangles"}: AsciiText, Text2 and Text3 are
 //                     left out of every other figure (Coin's own font)
-//   concave_fanned_faces, fan_excess_area
-//                     faces of IndexedFaceSets under faceType CONVEX that are
-//                     not convex: Coin fans them, which VRML 1.0 leaves
-//                     undefined, and its area exceeds the polygon's by
-//                     fan_excess_area
+//   excess_faces, excess_area
+//                     faces of IndexedFaceSets whose triangles from Coin
+//                     cover more than the polygon (as a planar polygon, from
+//                     Newell's normal), and by how much: Coin fans concave
+//                     faces under faceType CONVEX (which VRML 1.0 leaves
+//                     undefined) and concave quadrilaterals whatever the
+//                     face type, and a face that is not planar has no one
+//                     area
 //   dropped_faces, dropped_area, dropped_box
 //                     Coin drops every face after a face of fewer than three
 //                     corners in an IndexedFaceSet: these are those faces
@@ -46,11 +49,17 @@
 //   lod_nodes         LOD nodes, each traversed through its first child (the
 //                     most detailed one) instead of Coin's choice by distance
 //   point_sets        PointSets traversed (their colours are not compared)
+//
+// With Options::listPrimitives, the output is instead one line per primitive
+// in world space (text left out): "t" and three corners, front faces
+// counter-clockwise for closed shapes, then the colour and 1 for a closed
+// shape or 0; "l" and two ends; "p" and a point.
 #include "SceneFigures.h"
 
 #include <Inventor/SbMatrix.h>
 #include <Inventor/SbVec3f.h>
 #include <Inventor/SoPrimitiveVertex.h>
+#include <Inventor/details/SoFaceDetail.h>
 #include <Inventor/actions/SoCallbackAction.h>
 #include <Inventor/actions/SoSearchAction.h>
 #include <Inventor/nodes/SoAsciiText.h>
@@ -235,14 +244,6 @@ double polygonArea(const std::vector<Vec>& corners) {
   return length(normal) / 2;
 }
 
-double fanArea(const std::vector<Vec>& corners) {
-  double sum = 0;
-  for (size_t i = 2; i < corners.size(); ++i) {
-    sum += length(cross(corners[i - 1] - corners[0], corners[i] - corners[0])) / 2;
-  }
-  return sum;
-}
-
 struct Figures {
   double complexity = -1;
   long triangles = 0, segments = 0, points = 0, degenerateTriangles = 0;
@@ -253,12 +254,17 @@ struct Figures {
   long curvedTriangles = 0;
   double curvedArea = 0;
   long textShapes = 0, textTriangles = 0;
-  long concaveFannedFaces = 0;
-  double fanExcessArea = 0;
+  long excessFaces = 0;
+  double excessArea = 0;
+  // The IndexedFaceSet being traversed: each face's area as a planar
+  // polygon, and the area of the triangles Coin makes of it.
+  std::vector<double> polygonAreas;
+  std::map<int, double> coinFaceAreas;
   long droppedFaces = 0, badIndexFaces = 0;
   double droppedArea = 0;
   Box droppedBox;
   long lodNodes = 0, pointSets = 0;
+  std::string* primitives = nullptr;  // the list, when asked for
 
   // The shape being traversed.
   const SoNode* shape = nullptr;
@@ -273,7 +279,6 @@ struct Figures {
 void inspectFaceSet(const SoIndexedFaceSet* faceSet, SoCallbackAction* action, Figures& f) {
   const SbMatrix& m = action->getModelMatrix();
   int32_t count = action->getNumCoordinates();
-  bool convexHint = action->getFaceType() == SoShapeHints::CONVEX;
   const int32_t* index = faceSet->coordIndex.getValues(0);
   int n = faceSet->coordIndex.getNum();
   bool dropping = false;
@@ -292,6 +297,7 @@ void inspectFaceSet(const SoIndexedFaceSet* faceSet, SoCallbackAction* action, F
         }
         points.push_back(transformPoint(m, action->getCoordinate3(index[i])));
       }
+      f.polygonAreas.push_back(inRange && corners >= 3 ? polygonArea(points) : 0.0);
       if (!inRange) {
         ++f.badIndexFaces;
       } else if (dropping) {
@@ -300,20 +306,31 @@ void inspectFaceSet(const SoIndexedFaceSet* faceSet, SoCallbackAction* action, F
         for (const Vec& p : points) f.droppedBox.add(p);
       } else if (corners < 3) {
         dropping = true;
-      } else if (convexHint && corners > 3) {
-        double excess = fanArea(points) - polygonArea(points);
-        if (excess > 1e-9 * std::max(1.0, fanArea(points))) {
-          ++f.concaveFannedFaces;
-          f.fanExcessArea += excess;
-        }
       }
     }
     start = end + 1;
   }
 }
 
+// Faces whose triangles cover more than the polygon: concave faces that Coin
+// fans (under faceType CONVEX, and quadrilaterals whatever the face type) and
+// faces that are not planar.
+void settleFaces(Figures& f) {
+  for (const auto& entry : f.coinFaceAreas) {
+    if (entry.first < 0 || static_cast<size_t>(entry.first) >= f.polygonAreas.size()) continue;
+    double excess = entry.second - f.polygonAreas[entry.first];
+    if (excess > 1e-6 * entry.second) {
+      ++f.excessFaces;
+      f.excessArea += excess;
+    }
+  }
+  f.polygonAreas.clear();
+  f.coinFaceAreas.clear();
+}
+
 SoCallbackAction::Response beforeShape(void* data, SoCallbackAction* action, const SoNode* node) {
   Figures& f = *static_cast<Figures*>(data);
+  settleFaces(f);
   f.shape = node;
   f.shapeIsText = isText(node);
   if (f.shapeIsText) ++f.textShapes;
@@ -332,6 +349,10 @@ SoCallbackAction::Response beforeShape(void* data, SoCallbackAction* action, con
   if (node->isOfType(SoPointSet::getClassTypeId())) ++f.pointSets;
   return SoCallbackAction::CONTINUE;
 }
+
+std::string number(double value);
+
+std::string point(const Vec& p) { return number(p.x) + " " + number(p.y) + " " + number(p.z); }
 
 SbColor diffuseOf(SoCallbackAction* action, const SoPrimitiveVertex* v) {
   SbColor ambient, diffuse, specular, emission;
@@ -354,7 +375,10 @@ void noteAngles(CurvedShape& shape, const SbVec3f& p) {
   double radial = std::hypot(p[0], p[2]);
   bool isSphere = shape.node->isOfType(SoSphere::getClassTypeId());
   if (radial > 1e-6 * std::max(1.0, std::fabs(static_cast<double>(p[1])))) {
-    shape.around.insert(angleKey(std::atan2(p[0], p[2])));
+    // -pi and pi are one direction.
+    double angle = std::atan2(p[0], p[2]);
+    if (angle < -M_PI + kAngleStep) angle += 2 * M_PI;
+    shape.around.insert(angleKey(angle));
   }
   if (isSphere) shape.polar.insert(angleKey(std::atan2(radial, p[1])));
 }
@@ -373,9 +397,18 @@ void onTriangle(void* data, SoCallbackAction* action, const SoPrimitiveVertex* v
   double area = length(cross(b - a, c - a)) / 2;
   ++f.triangles;
   f.area += area;
+  const SoDetail* detail = v1->getDetail();
+  if (!f.polygonAreas.empty() && detail != nullptr && detail->isOfType(SoFaceDetail::getClassTypeId())) {
+    f.coinFaceAreas[static_cast<const SoFaceDetail*>(detail)->getFaceIndex()] += area;
+  }
   double scale = std::max({length(b - a), length(c - a), length(c - b)});
   if (area <= 1e-12 * std::max(scale * scale, 1e-300)) ++f.degenerateTriangles;
   SbColor colour = (diffuseOf(action, v1) + diffuseOf(action, v2) + diffuseOf(action, v3)) / 3.0f;
+  if (f.primitives != nullptr) {
+    bool flip = f.shapeIsSolid && f.shapeOrientation < 0;
+    *f.primitives += "t " + point(a) + " " + point(flip ? c : b) + " " + point(flip ? b : c) + " " +
+                     point(Vec{colour[0], colour[1], colour[2]}) + (f.shapeIsSolid ? " 1\n" : " 0\n");
+  }
   f.areaByColour[colourKey(colour)] += area;
   if (f.shapeIsSolid) {
     f.solidArea += area;
@@ -405,6 +438,10 @@ void onSegment(void* data, SoCallbackAction* action, const SoPrimitiveVertex* v1
   if (f.shapeIsText) return;
   ++f.segments;
   const SbMatrix& m = action->getModelMatrix();
+  if (f.primitives != nullptr) {
+    *f.primitives += "l " + point(transformPoint(m, v1->getPoint())) + " " +
+                     point(transformPoint(m, v2->getPoint())) + "\n";
+  }
   for (const SoPrimitiveVertex* v : {v1, v2}) {
     Vec p = transformPoint(m, v->getPoint());
     f.box.add(p);
@@ -417,6 +454,7 @@ void onPoint(void* data, SoCallbackAction* action, const SoPrimitiveVertex* v) {
   if (f.shapeIsText) return;
   ++f.points;
   Vec p = transformPoint(action->getModelMatrix(), v->getPoint());
+  if (f.primitives != nullptr) *f.primitives += "p " + point(p) + "\n";
   f.box.add(p);
   f.flatBox.add(p);
 }
@@ -519,8 +557,8 @@ std::string toJson(const Figures& f, const Box& outer, const Box& inner, const B
                       ", \"area\": " + number(f.curvedArea) + "}");
   field("text", "{\"shapes\": " + std::to_string(f.textShapes) +
                     ", \"triangles\": " + std::to_string(f.textTriangles) + "}");
-  field("concave_fanned_faces", std::to_string(f.concaveFannedFaces));
-  field("fan_excess_area", number(f.fanExcessArea));
+  field("excess_faces", std::to_string(f.excessFaces));
+  field("excess_area", number(f.excessArea));
   field("dropped_faces", std::to_string(f.droppedFaces));
   field("dropped_area", number(f.droppedArea));
   field("dropped_box", boxJson(f.droppedBox));
@@ -545,6 +583,8 @@ std::string computeJson(const std::vector<SoNode*>& roots, const Options& option
   for (SoNode* root : roots) scene->addChild(root);
 
   Figures f;
+  std::string primitives;
+  if (options.listPrimitives) f.primitives = &primitives;
   f.complexity = options.complexity;
   f.lodNodes = chooseFirstLevels(scene);
   SoCallbackAction action;
@@ -553,7 +593,9 @@ std::string computeJson(const std::vector<SoNode*>& roots, const Options& option
   action.addLineSegmentCallback(SoShape::getClassTypeId(), onSegment, &f);
   action.addPointCallback(SoShape::getClassTypeId(), onPoint, &f);
   action.apply(scene);
+  settleFaces(f);
   scene->unref();
+  if (options.listPrimitives) return primitives;
 
   Box outer = f.flatBox, inner = f.flatBox, outerTriangles = f.flatTriangleBox, innerTriangles = f.flatTriangleBox;
   for (const CurvedShape& shape : f.curved) {

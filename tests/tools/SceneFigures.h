@@ -16,10 +16,13 @@ struct Options {
   // Negative: the scene's own Complexity nodes decide. Otherwise a Complexity
   // node with this value (object space) overrides every one in the scene.
   double complexity = -1;
+  // Instead of the figures, list the primitives (see SceneFigures.cpp): what
+  // the export checks' stand-in exporter writes, to test those checks.
+  bool listPrimitives = false;
 };
 
 // Traverses `roots` in order under one Separator and returns the figures as
-// one JSON object (followed by a newline).
+// one JSON object (followed by a newline), or the list of primitives.
 std::string computeJson(const std::vector<SoNode*>& roots, const Options& options);
 
 }  // namespace figures

@@ -19,7 +19,7 @@
 //   cameras, lights       glTF nodes carrying a camera / a KHR_lights_punctual
 //                         light (null for OBJ and STL)
 //
-//   node figures.mjs FILE      prints the figures as one JSON object
+//   node figures.mjs FILE...   prints {FILE: figures} as one JSON object
 import fs from 'node:fs';
 import path from 'node:path';
 import { fileURLToPath } from 'node:url';
@@ -311,18 +311,21 @@ export async function figuresOf(file) {
 }
 
 async function main(args) {
-  if (args.length !== 1) {
-    process.stderr.write('usage: node figures.mjs FILE.glb|.gltf|.obj|.stl\n');
+  if (args.length === 0) {
+    process.stderr.write('usage: node figures.mjs FILE.glb|.gltf|.obj|.stl...\n');
     return 2;
   }
-  try {
-    const figures = await figuresOf(args[0]);
-    process.stdout.write(JSON.stringify(figures, null, 2) + '\n');
-    return 0;
-  } catch (error) {
-    process.stderr.write(`figures: ${args[0]}: ${error.message}\n`);
-    return 1;
+  const all = {};
+  for (const file of args) {
+    try {
+      all[file] = await figuresOf(file);
+    } catch (error) {
+      process.stderr.write(`figures: ${file}: ${error.message}\n`);
+      return 1;
+    }
   }
+  process.stdout.write(JSON.stringify(all, null, 2) + '\n');
+  return 0;
 }
 
 if (process.argv[1] && path.resolve(process.argv[1]) === fileURLToPath(import.meta.url)) {
