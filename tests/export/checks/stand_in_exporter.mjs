@@ -46,9 +46,19 @@ if (output.endsWith('.wrl')) process.exit(lumeric(output));
 const scratch = fs.mkdtempSync(path.join(os.tmpdir(), 'stand-in-'));
 const wrl = path.join(scratch, 'scene.wrl');
 const status = lumeric(wrl);
-const listing = fs.existsSync(wrl)
-  ? execFileSync(process.env.STAND_IN_VRML1CHECK, ['figures', wrl, '--primitives'], { encoding: 'utf8' })
-  : '';
+// What Coin cannot read is exported as an empty scene.
+let listing = '';
+try {
+  if (fs.existsSync(wrl)) {
+    listing = execFileSync(process.env.STAND_IN_VRML1CHECK, ['figures', wrl, '--primitives'], {
+      encoding: 'utf8',
+      stdio: ['ignore', 'pipe', 'ignore'],
+      maxBuffer: 1 << 30,
+    });
+  }
+} catch {
+  listing = '';
+}
 fs.rmSync(scratch, { recursive: true, force: true });
 
 const triangles = [];
@@ -87,8 +97,6 @@ async function writeGltf() {
   const document = new Document();
   document.getRoot().getAsset().generator = 'lumeric export checks stand-in';
   const buffer = document.createBuffer();
-  const scene = document.createScene();
-  document.getRoot().setDefaultScene(scene);
   const mesh = document.createMesh();
   const positions = (list) =>
     document.createAccessor().setType('VEC3').setArray(new Float32Array(list.flat(2))).setBuffer(buffer);
@@ -105,8 +113,14 @@ async function writeGltf() {
   if (points.length) {
     mesh.addPrimitive(document.createPrimitive().setAttribute('POSITION', positions(points.map((p) => [p]))).setMode(0));
   }
-  if (mesh.listPrimitives().length) scene.addChild(document.createNode().setMesh(mesh));
-  else buffer.dispose();
+  if (mesh.listPrimitives().length) {
+    const scene = document.createScene();
+    document.getRoot().setDefaultScene(scene);
+    scene.addChild(document.createNode().setMesh(mesh));
+  } else {
+    mesh.dispose();
+    buffer.dispose();
+  }
   await new NodeIO().write(output, document);
 }
 
