@@ -1,5 +1,5 @@
-# Export checks: each export of each corpus file, example and scene of
-# tests/export/scenes/ is judged by independent readers (run_export_checks.py
+# Export checks: each export of each corpus file, example, golden scene and
+# scene of tests/export/scenes/ is judged by independent readers (run_export_checks.py
 # says how), one test per input so that a failure names the file. They skip
 # (status 77) while the command line offers no exports. Also registered: the
 # tests of the figure tools themselves, and the harness run against a
@@ -81,6 +81,17 @@ foreach(example IN LISTS lumeric_examples)
   get_filename_component(example_stem "${example}" NAME_WLE)
   add_test(NAME export.example.${example_stem} COMMAND ${LUMERIC_EXPORT_CHECK_COMMAND} --example ${example_name})
   list(APPEND lumeric_export_tests export.example.${example_stem})
+endforeach()
+# The golden scenes: the glTF exports must pass the validator (and, without
+# errors, agree with Coin's figures).
+file(GLOB lumeric_golden_scenes CONFIGURE_DEPENDS
+  "${PROJECT_SOURCE_DIR}/tests/scenes/*.wrl" "${PROJECT_SOURCE_DIR}/tests/scenes/*.vlm")
+foreach(golden IN LISTS lumeric_golden_scenes)
+  get_filename_component(golden_name "${golden}" NAME)
+  get_filename_component(golden_stem "${golden}" NAME_WLE)
+  add_test(NAME export.golden.${golden_stem}
+    COMMAND ${LUMERIC_EXPORT_CHECK_COMMAND} --formats glb,gltf --golden ${golden_name})
+  list(APPEND lumeric_export_tests export.golden.${golden_stem})
 endforeach()
 if(lumeric_corpus_dir AND IS_DIRECTORY "${lumeric_corpus_dir}")
   file(GLOB lumeric_corpus_files CONFIGURE_DEPENDS "${lumeric_corpus_dir}/*.wrl")

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Checks lumeric's exports of a scene against independent readers.
 
-For each input (a corpus file, an example, or a scene of
-tests/export/scenes/), lumeric writes the scene as VRML 1.0 and as .glb,
+For each input (a corpus file, an example, a golden scene of tests/scenes/,
+or a scene of tests/export/scenes/), lumeric writes the scene as VRML 1.0 and as .glb,
 .gltf, .stl, .obj and .x3d. Then:
 
 - every run ends as the VRML 1.0 run does (same exit status), without a
@@ -22,7 +22,7 @@ Until the command line offers exports (its --help mentions --format), every
 check is skipped: exit status 77, CTest's SKIP_RETURN_CODE.
 
   run_export_checks.py --lumeric L --vrml1check V [--node N] --source-dir S \\
-      (--corpus NAME | --example NAME | --scene NAME)...
+      [--formats F,...] (--corpus NAME | --example NAME | --golden NAME | --scene NAME)...
   run_export_checks.py --vrml1check V --refresh-scenes
   run_export_checks.py --vrml1check V --check-scene-expectations
 """
@@ -262,11 +262,15 @@ class ExportCheck:
         self.name = name
         self.problems = []
         self.notes = []
+        self.options = []
         if kind == "corpus":
             self.directory = args.corpus_dir
             self.input = name
         elif kind == "example":
             self.directory = pathlib.Path(args.source_dir) / "examples"
+            self.input = name
+        elif kind == "golden":
+            self.directory = pathlib.Path(args.source_dir) / "tests" / "scenes"
             self.input = name
         else:
             self.directory = SCENES_DIR
@@ -282,7 +286,7 @@ class ExportCheck:
         return code, out, err
 
     def lumeric(self, output):
-        code, out, err = run([self.args.lumeric, "-o", str(output), self.input], LUMERIC_ENV,
+        code, out, err = run([self.args.lumeric, *self.options, "-o", str(output), self.input], LUMERIC_ENV,
                              cwd=self.directory)
         if code is None:
             self.fail(f"lumeric -o {output.name}: {err}")
@@ -373,6 +377,13 @@ class ExportCheck:
             self.fail(f"view3dscene does not load the X3D (status {code}):\n{out}{err}")
 
     def check(self):
+        if self.kind == "golden":
+            # A golden scene's NAME.args holds the options it is run with.
+            options = self.directory / (pathlib.Path(self.name).stem + ".args")
+            self.options = options.read_text(encoding="utf-8").split() if options.exists() else []
+            if "--check" in self.options:
+                self.notes.append("the scene is only checked, never written: nothing to export")
+                return
         with tempfile.TemporaryDirectory(prefix="lumeric-export-") as temp:
             temp = pathlib.Path(temp)
             wrl = temp / "out.wrl"
@@ -398,7 +409,10 @@ class ExportCheck:
                 self.check_obj(outputs["obj"])
             if "x3d" in outputs:
                 self.check_x3d(outputs["x3d"])
-            if status != 0:
+            if status == 0 and not wrl.exists():
+                self.notes.append("no VRML 1.0 output (an empty scene): the exports must hold nothing")
+                expected = None
+            elif status != 0:
                 # The exports hold what was translated, as the VRML 1.0 output
                 # does: compared when Coin reads that partial output.
                 if not wrl.exists() or self.coin_figures(wrl)[0] is None:
@@ -406,7 +420,8 @@ class ExportCheck:
                                       "output: the figures are not compared")
                     return
                 self.notes.append("the scene has errors: the figures of what was translated are compared")
-            expected = self.expected_figures(temp, wrl)
+            if wrl.exists():
+                expected = self.expected_figures(temp, wrl)
             measured = [f for f in ("glb", "gltf", "obj", "stl") if f in outputs]
             code, out, err = self.node("figures.mjs", *(outputs[f] for f in measured))
             if code != 0:
@@ -416,6 +431,12 @@ class ExportCheck:
             if stl_header is not None and figures[str(outputs["stl"])]["triangles"] != stl_header:
                 self.fail(f"three.js reads {figures[str(outputs['stl'])]['triangles']} STL triangles, "
                           f"the header says {stl_header}")
+            if not wrl.exists():
+                for fmt in measured:
+                    held = {k: figures[str(outputs[fmt])][k] for k in ("triangles", "segments", "points")}
+                    if any(held.values()):
+                        self.fail(f"{fmt}: {held} in the export of an empty scene")
+                return
             if expected is None:
                 return
             for fmt in measured:
@@ -464,6 +485,8 @@ def main():
     parser.add_argument("--corpus", action="append", default=[], metavar="NAME")
     parser.add_argument("--example", action="append", default=[], metavar="NAME")
     parser.add_argument("--scene", action="append", default=[], metavar="NAME")
+    parser.add_argument("--golden", action="append", default=[], metavar="NAME",
+                        help="a scene of tests/scenes/ (run with the options of its NAME.args)")
     parser.add_argument("--formats", default=",".join(FORMATS),
                         help="the export formats to check, comma-separated (default: all)")
     parser.add_argument("--refresh-scenes", action="store_true",
@@ -493,6 +516,7 @@ def main():
             return 1
 
     inputs = [("example", n) for n in args.example] + [("scene", n) for n in args.scene]
+    inputs += [("golden", n) for n in args.golden]
     if args.corpus:
         args.corpus_dir = find_corpus(args.source_dir)
         if args.corpus_dir is None:

@@ -8,7 +8,7 @@
 //   colour       every colour's red turned up by 0.1
 //   lose-face    the last triangle left out
 //
-//   STAND_IN_LUMERIC=... STAND_IN_VRML1CHECK=... node stand_in_exporter.mjs -o OUT INPUT
+//   STAND_IN_LUMERIC=... STAND_IN_VRML1CHECK=... node stand_in_exporter.mjs [OPTION...] -o OUT INPUT
 //   node stand_in_exporter.mjs --help
 import { execFileSync } from 'node:child_process';
 import fs from 'node:fs';
@@ -23,17 +23,19 @@ if (args.includes('--help')) {
   process.exit(0);
 }
 const outIndex = args.indexOf('-o');
-if (outIndex < 0 || args.length !== 3) {
-  process.stderr.write('usage: stand_in_exporter.mjs -o OUT INPUT\n');
+if (outIndex < 0 || outIndex + 2 >= args.length) {
+  process.stderr.write('usage: stand_in_exporter.mjs [OPTION...] -o OUT INPUT\n');
   process.exit(2);
 }
 const output = path.resolve(args[outIndex + 1]);
-const input = args.filter((_, i) => i !== outIndex && i !== outIndex + 1)[0];
+const rest = args.filter((_, i) => i !== outIndex && i !== outIndex + 1);
+const input = rest.pop();
+const options = rest; // lumeric's other options, passed on
 const fault = process.env.STAND_IN_FAULT || '';
 
 function lumeric(out) {
   try {
-    execFileSync(process.env.STAND_IN_LUMERIC, ['-o', out, input], { stdio: ['ignore', 'inherit', 'inherit'] });
+    execFileSync(process.env.STAND_IN_LUMERIC, [...options, '-o', out, input], { stdio: ['ignore', 'inherit', 'inherit'] });
     return 0;
   } catch (error) {
     if (error.status === 1) return 1;
