@@ -149,10 +149,12 @@ def compare(coin, coin_fine, got, fmt):
       makes them depend on the tessellation.
 
     Leniencies for where Coin departs from VRML 1.0 (see SceneFigures.cpp):
-    concave faces under faceType CONVEX (the export's area may be lower by
-    Coin's fan excess), faces after a face of fewer than three corners (the
+    faces that Coin's triangles cover more than once or not as a plane (it
+    fans concave faces under faceType CONVEX, and concave quadrilaterals
+    whatever the face type: the export's area may be lower by that excess,
+    and the volume is then compared by its sign), faces after a face of fewer than three corners (the
     export has them: its area may be higher by their area, its box reach
-    their box), text (Coin draws it with its own font: the export may leave it
+    their box, the volume is compared by its sign), text (Coin draws it with its own font: the export may leave it
     out or draw other glyphs, so only lower bounds hold), faces with an index
     out of range (no figure of Coin's can be trusted: only the counts of lines
     and points are compared). STL and OBJ have no double-sided faces: an
@@ -165,7 +167,7 @@ def compare(coin, coin_fine, got, fmt):
     lo_fig = lambda key: min(coin[key], coin_fine[key])  # noqa: E731
     hi_fig = lambda key: max(coin[key], coin_fine[key])  # noqa: E731
     has_text = coin["text"]["shapes"] > 0
-    fan_excess = coin["excess_area"]
+    excess = coin["excess_area"]
     dropped = coin["dropped_area"]
     curved = coin["curved"]["shapes"] > 0
 
@@ -191,19 +193,19 @@ def compare(coin, coin_fine, got, fmt):
 
     scale = max(diagonal(outer) if not has_text else diagonal(inner), 1e-6)
     absolute = 1e-9 * scale * scale
-    lo = lo_fig("area") - fan_excess
+    lo = lo_fig("area") - excess
     hi = math.inf if has_text else hi_fig("area") + dropped
     doubled = faces_only and within(got["area"], lo + lo_fig("open_area"), hi + hi_fig("open_area"), absolute)
     if not within(got["area"], lo, hi, absolute) and not doubled:
         problems.append(f"area {got['area']:.9g} not in [{lo:.9g}, {hi:.9g}] (Coin's figures, ± 0.2%)")
 
     if got.get("area_by_colour") is not None:
-        problems += compare_colours(coin, coin_fine, got, has_text, fan_excess + dropped, absolute,
+        problems += compare_colours(coin, coin_fine, got, has_text, excess + dropped, absolute,
                                     faces_only)
 
     if not faces_only and not has_text:
         for key, coin_key in (("single_sided_area", "solid_area"), ("double_sided_area", "open_area")):
-            s_lo, s_hi = lo_fig(coin_key) - fan_excess, hi_fig(coin_key) + dropped
+            s_lo, s_hi = lo_fig(coin_key) - excess, hi_fig(coin_key) + dropped
             if not within(got[key], s_lo, s_hi, absolute):
                 problems.append(f"{key} {got[key]:.9g} not in [{s_lo:.9g}, {s_hi:.9g}], the area of "
                                 f"Coin's {'closed' if coin_key == 'solid_area' else 'open'} shapes "
@@ -212,14 +214,14 @@ def compare(coin, coin_fine, got, fmt):
     if not has_text and (not faces_only or closed_only):
         v_lo, v_hi = lo_fig("volume"), hi_fig("volume")
         volume_absolute = 1e-9 * scale ** 3
-        if fan_excess or dropped:
+        if excess or dropped:
             if abs(v_lo) > volume_absolute and got["volume"] * v_lo <= 0:
                 problems.append(f"volume {got['volume']:.9g} has not the sign of Coin's {v_lo:.9g}")
         elif not within(got["volume"], v_lo, v_hi, volume_absolute):
             problems.append(f"volume {got['volume']:.9g} not in [{v_lo:.9g}, {v_hi:.9g}] (Coin's oriented "
                             "volume of the closed shapes: faces turned inside out change it)")
 
-    if not curved and not has_text and not fan_excess and not dropped:
+    if not curved and not has_text and not excess and not dropped:
         least = coin["triangles"] - coin["degenerate_triangles"]
         if not least <= got["triangles"] <= coin["triangles"] and not (
                 faces_only and got["triangles"] > coin["triangles"]):
