@@ -8,9 +8,9 @@
 //   triangles, segments, points     counts of primitives
 //   degenerate_triangles            triangles of (nearly) zero area
 //   area              total triangle area
-//   area_by_colour    {"r g b": area}: the diffuse colour of each triangle
-//                     (the mean of its three vertices' colours, which is the
-//                     colour itself unless bound per vertex), 3 decimals
+//   area_by_colour    {"r g b": area}: the diffuse colour of each triangle,
+//                     3 decimals; triangles whose corners differ in colour
+//                     (bound per vertex) count under "blended"
 //   solid_area, open_area
 //                     area of shapes known to be closed and of the others
 //                     (see isKnownSolid); open faces are double-sided
@@ -27,7 +27,9 @@
 //                     of the shape shrunk to the largest one its
 //                     tessellation into n segments is sure to contain, which
 //                     falls short of the radius r by r(1 - cos(pi/n)) (inner),
-//                     n being what Coin uses here (see CurvedShape)
+//                     n being what Coin uses here (see CurvedShape); the
+//                     inner boxes leave out degenerate triangles (of zero
+//                     area), which an export may skip
 //   curved            {"shapes", "triangles", "area"}: the part of the
 //                     figures above that comes from those shapes
 //   text              {"shapes", "triangles"}: AsciiText, Text2 and Text3 are
@@ -158,6 +160,7 @@ struct CurvedShape {
   Box primitives;
   std::set<long> around;
   std::set<long> polar;
+  bool hasArea = false;  // false: every triangle degenerate (e.g. radius 0)
 };
 
 const double kAngleStep = 1e-4;  // radians, for counting distinct angles
@@ -249,7 +252,10 @@ struct Figures {
   long triangles = 0, segments = 0, points = 0, degenerateTriangles = 0;
   double area = 0, solidArea = 0, openArea = 0, volume = 0;
   std::map<std::string, double> areaByColour;
-  Box box, triangleBox, flatBox, flatTriangleBox;
+  Box box, triangleBox;
+  // The flat primitives' boxes: all of them (outer) and without degenerate
+  // triangles (inner), which an export may skip.
+  Box flatBox, flatTriangleBox, flatInnerBox, flatInnerTriangleBox;
   std::vector<CurvedShape> curved;
   long curvedTriangles = 0;
   double curvedArea = 0;
@@ -369,6 +375,20 @@ std::string colourKey(const SbColor& c) {
   return text;
 }
 
+// A triangle whose corners have different colours (bound per vertex) is
+// counted under "blended": how a face is split into triangles changes the
+// mean colour of each, so only their total area can be compared.
+const char kBlended[] = "blended";
+
+bool blended(const SbColor& a, const SbColor& b, const SbColor& c) {
+  for (int i = 0; i < 3; ++i) {
+    float lo = std::min({a[i], b[i], c[i]});
+    float hi = std::max({a[i], b[i], c[i]});
+    if (hi - lo > 1e-3f) return true;
+  }
+  return false;
+}
+
 // The angles that tell how many segments a curved shape has: around its
 // axis (y) and, for a sphere, from it.
 void noteAngles(CurvedShape& shape, const SbVec3f& p) {
@@ -402,14 +422,16 @@ void onTriangle(void* data, SoCallbackAction* action, const SoPrimitiveVertex* v
     f.coinFaceAreas[static_cast<const SoFaceDetail*>(detail)->getFaceIndex()] += area;
   }
   double scale = std::max({length(b - a), length(c - a), length(c - b)});
-  if (area <= 1e-12 * std::max(scale * scale, 1e-300)) ++f.degenerateTriangles;
-  SbColor colour = (diffuseOf(action, v1) + diffuseOf(action, v2) + diffuseOf(action, v3)) / 3.0f;
+  bool degenerate = area <= 1e-12 * std::max(scale * scale, 1e-300);
+  if (degenerate) ++f.degenerateTriangles;
+  SbColor c1 = diffuseOf(action, v1), c2 = diffuseOf(action, v2), c3 = diffuseOf(action, v3);
+  SbColor colour = (c1 + c2 + c3) / 3.0f;
   if (f.primitives != nullptr) {
     bool flip = f.shapeIsSolid && f.shapeOrientation < 0;
     *f.primitives += "t " + point(a) + " " + point(flip ? c : b) + " " + point(flip ? b : c) + " " +
                      point(Vec{colour[0], colour[1], colour[2]}) + (f.shapeIsSolid ? " 1\n" : " 0\n");
   }
-  f.areaByColour[colourKey(colour)] += area;
+  f.areaByColour[blended(c1, c2, c3) ? std::string(kBlended) : colourKey(colour)] += area;
   if (f.shapeIsSolid) {
     f.solidArea += area;
     f.volume += f.shapeOrientation * dot(a, cross(b, c)) / 6;
@@ -425,10 +447,15 @@ void onTriangle(void* data, SoCallbackAction* action, const SoPrimitiveVertex* v
     f.curvedArea += area;
     for (const SoPrimitiveVertex* v : {v1, v2, v3}) noteAngles(*f.shapeCurve, v->getPoint());
     for (const Vec* p : {&a, &b, &c}) f.shapeCurve->primitives.add(*p);
+    if (!degenerate) f.shapeCurve->hasArea = true;
   } else {
     for (const Vec* p : {&a, &b, &c}) {
       f.flatBox.add(*p);
       f.flatTriangleBox.add(*p);
+      if (!degenerate) {
+        f.flatInnerBox.add(*p);
+        f.flatInnerTriangleBox.add(*p);
+      }
     }
   }
 }
@@ -446,6 +473,7 @@ void onSegment(void* data, SoCallbackAction* action, const SoPrimitiveVertex* v1
     Vec p = transformPoint(m, v->getPoint());
     f.box.add(p);
     f.flatBox.add(p);
+    f.flatInnerBox.add(p);
   }
 }
 
@@ -457,6 +485,7 @@ void onPoint(void* data, SoCallbackAction* action, const SoPrimitiveVertex* v) {
   if (f.primitives != nullptr) *f.primitives += "p " + point(p) + "\n";
   f.box.add(p);
   f.flatBox.add(p);
+  f.flatInnerBox.add(p);
 }
 
 // The fraction of its radius that a curved shape's tessellation is sure to
@@ -597,13 +626,15 @@ std::string computeJson(const std::vector<SoNode*>& roots, const Options& option
   scene->unref();
   if (options.listPrimitives) return primitives;
 
-  Box outer = f.flatBox, inner = f.flatBox, outerTriangles = f.flatTriangleBox, innerTriangles = f.flatTriangleBox;
+  Box outer = f.flatBox, inner = f.flatInnerBox, outerTriangles = f.flatTriangleBox,
+      innerTriangles = f.flatInnerTriangleBox;
   for (const CurvedShape& shape : f.curved) {
     if (shape.primitives.empty()) continue;
     Box exact = curvedBox(shape.node, shape.matrix, 1);
     Box reached = curvedBox(shape.node, shape.matrix, reachedFraction(shape));
     outer.add(exact);
     outerTriangles.add(exact);
+    if (!shape.hasArea) continue;
     inner.add(reached);
     innerTriangles.add(reached);
   }

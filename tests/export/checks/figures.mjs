@@ -6,8 +6,9 @@
 //   triangles, segments, points, degenerate_triangles
 //   area, area_by_colour  {"r g b": area}, the colour of a triangle being the
 //                         material's base colour (glTF baseColorFactor, OBJ
-//                         Kd) times the mean of its vertex colours; null for
-//                         STL, which has no colours
+//                         Kd) times its vertex colour; a triangle whose
+//                         corners differ in colour counts under "blended";
+//                         null for STL, which has no colours
 //   single_sided_area, double_sided_area
 //                         glTF: by the material's doubleSided; OBJ and STL
 //                         have no such flag and count every face single-sided
@@ -67,7 +68,7 @@ export class FigureSink {
     this.area += area;
     if (area <= 1e-12 * Math.max(scale * scale, 1e-300)) this.degenerate += 1;
     if (colour) {
-      const key = colourKey(colour);
+      const key = typeof colour === 'string' ? colour : colourKey(colour);
       this.areaByColour.set(key, (this.areaByColour.get(key) || 0) + area);
     }
     if (doubleSided) {
@@ -137,6 +138,18 @@ const len = (a) => Math.sqrt(dot(a, a));
 // The same key as vrml1check's: three decimals, no negative zero.
 export function colourKey(rgb) {
   return rgb.map((v) => (Math.round(v * 1000) / 1000 + 0).toFixed(3)).join(' ');
+}
+
+// As vrml1check, a triangle whose corners differ in colour counts under
+// "blended" (its mean colour depends on how its face was split).
+export const BLENDED = 'blended';
+
+function cornerColour(base, corners) {
+  for (let c = 0; c < 3; c++) {
+    const values = corners.map((corner) => corner[c]);
+    if (Math.max(...values) - Math.min(...values) > 1e-3) return BLENDED;
+  }
+  return base.map((v, c) => v * corners[0][c]);
 }
 
 // Column-major 4x4 matrix (glTF's order) applied to a point.
@@ -217,10 +230,7 @@ function addMesh(sink, mesh, matrix) {
     const mode = primitive.getMode();
     for (const [i, j, k] of triangleCorners(mode, count)) {
       let colour = base.slice(0, 3);
-      if (colours) {
-        const [ci, cj, ck] = [i, j, k].map((n) => colours.getElement(vertex(n), []));
-        colour = colour.map((v, c) => (v * (ci[c] + cj[c] + ck[c])) / 3);
-      }
+      if (colours) colour = cornerColour(colour, [i, j, k].map((n) => colours.getElement(vertex(n), [])));
       if (mirrored) sink.addTriangle(world(i), world(k), world(j), colour, doubleSided);
       else sink.addTriangle(world(i), world(j), world(k), colour, doubleSided);
     }
@@ -245,7 +255,7 @@ function addGeometryTriangles(sink, geometry, colourOf) {
       const corners = [vertex(i), vertex(i + 1), vertex(i + 2)];
       let colour = colourOf(group.materialIndex);
       if (colour && colours) {
-        colour = colour.map((v, c) => (v * corners.reduce((s, n) => s + colours.getComponent(n, c), 0)) / 3);
+        colour = cornerColour(colour, corners.map((n) => [0, 1, 2].map((c) => colours.getComponent(n, c))));
       }
       sink.addTriangle(...corners.map(point), colour, false);
     }

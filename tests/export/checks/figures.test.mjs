@@ -96,7 +96,7 @@ test('a mirroring node keeps the volume positive; baking the mirror into the ver
   assert.ok(Math.abs(insideOut.volume + 8) < 1e-9);
 });
 
-test('area per colour from base colours and vertex colours; double-sided faces leave the volume', async () => {
+test('area per colour from base colours and vertex colours, blended colours apart; double-sided faces leave the volume', async () => {
   const file = await write(
     buildDocument(({ document, accessor, primitive, material, node }) => {
       const square = [[0, 0, 0], [1, 0, 0], [1, 1, 0], [0, 1, 0]];
@@ -104,13 +104,16 @@ test('area per colour from base colours and vertex colours; double-sided faces l
       const shifted = square.map(([x, y, z]) => [x + 2, y, z]);
       const tinted = primitive(shifted, [0, 1, 2, 0, 2, 3], material([1, 1, 1, 1], true));
       tinted.setAttribute('COLOR_0', accessor('VEC3', [0, 0.5, 0, 0, 0.5, 0, 0, 0.5, 0, 0, 0.5, 0]));
-      node(document.createMesh().addPrimitive(red).addPrimitive(tinted));
+      const third = square.map(([x, y, z]) => [x + 4, y, z]);
+      const blended = primitive(third, [0, 1, 2], material([1, 1, 1, 1], true));
+      blended.setAttribute('COLOR_0', accessor('VEC3', [1, 0, 0, 0, 1, 0, 0, 0, 1, 1, 1, 1]));
+      node(document.createMesh().addPrimitive(red).addPrimitive(tinted).addPrimitive(blended));
     }),
     'colours.glb',
   );
   const f = await figuresOf(file);
-  assert.deepEqual(f.area_by_colour, { '0.000 0.500 0.000': 1, '1.000 0.000 0.000': 1 });
-  assert.equal(f.double_sided_area, 2);
+  assert.deepEqual(f.area_by_colour, { '0.000 0.500 0.000': 1, '1.000 0.000 0.000': 1, blended: 0.5 });
+  assert.equal(f.double_sided_area, 2.5);
   assert.equal(f.volume, 0);
 });
 

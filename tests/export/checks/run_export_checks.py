@@ -117,9 +117,13 @@ def parse_key(key):
 
 
 def match_colour(key, keys):
+    if key == "blended":
+        return key if key in keys else None
     rgb = parse_key(key)
     best = None
     for candidate in keys:
+        if candidate == "blended":
+            continue
         gap = max(abs(a - b) for a, b in zip(rgb, parse_key(candidate)))
         if gap <= COLOUR_MATCH and (best is None or gap < best[0]):
             best = (gap, candidate)
