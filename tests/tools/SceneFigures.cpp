@@ -48,6 +48,9 @@
 //                     (their area as planar polygons) that an export keeps
 //   bad_index_faces   faces with an index out of range (Coin reads what
 //                     happens to be there; an export skips them)
+//   bad_index_points  points of a PointSet past the end of the coordinates,
+//                     which Coin draws from whatever follows them: left out
+//                     of every other figure, as an export leaves them out
 //   lod_nodes         LOD nodes, each traversed through its first child (the
 //                     most detailed one) instead of Coin's choice by distance
 //   point_sets        PointSets traversed (their colours are not compared)
@@ -62,6 +65,7 @@
 #include <Inventor/SbVec3f.h>
 #include <Inventor/SoPrimitiveVertex.h>
 #include <Inventor/details/SoFaceDetail.h>
+#include <Inventor/details/SoPointDetail.h>
 #include <Inventor/actions/SoCallbackAction.h>
 #include <Inventor/actions/SoSearchAction.h>
 #include <Inventor/nodes/SoAsciiText.h>
@@ -266,7 +270,7 @@ struct Figures {
   // polygon, and the area of the triangles Coin makes of it.
   std::vector<double> polygonAreas;
   std::map<int, double> coinFaceAreas;
-  long droppedFaces = 0, badIndexFaces = 0;
+  long droppedFaces = 0, badIndexFaces = 0, badIndexPoints = 0;
   double droppedArea = 0;
   Box droppedBox;
   long lodNodes = 0, pointSets = 0;
@@ -480,6 +484,12 @@ void onSegment(void* data, SoCallbackAction* action, const SoPrimitiveVertex* v1
 void onPoint(void* data, SoCallbackAction* action, const SoPrimitiveVertex* v) {
   Figures& f = *static_cast<Figures*>(data);
   if (f.shapeIsText) return;
+  const SoDetail* detail = v->getDetail();
+  if (detail != nullptr && detail->isOfType(SoPointDetail::getClassTypeId()) &&
+      static_cast<const SoPointDetail*>(detail)->getCoordinateIndex() >= action->getNumCoordinates()) {
+    ++f.badIndexPoints;
+    return;
+  }
   ++f.points;
   Vec p = transformPoint(action->getModelMatrix(), v->getPoint());
   if (f.primitives != nullptr) *f.primitives += "p " + point(p) + "\n";
@@ -592,6 +602,7 @@ std::string toJson(const Figures& f, const Box& outer, const Box& inner, const B
   field("dropped_area", number(f.droppedArea));
   field("dropped_box", boxJson(f.droppedBox));
   field("bad_index_faces", std::to_string(f.badIndexFaces));
+  field("bad_index_points", std::to_string(f.badIndexPoints));
   field("lod_nodes", std::to_string(f.lodNodes));
   field("point_sets", std::to_string(f.pointSets));
   return out + "\n}\n";

@@ -107,6 +107,10 @@ CASES = [
        PointSet { startIndex 1 numPoints 3 } }""",
      {"segments": 2, "points": 3, "triangles": 0, "triangle_box": None, "point_sets": 1,
       "box": {"min": [0, 0, 0], "max": [9, 9, 9]}}),
+    ("points past the end of the coordinates are left out", """Separator {
+       Coordinate3 { point [ 0 0 0, 1 0 0, 2 0 0 ] }
+       PointSet { startIndex 2 numPoints 3 } }""",
+     {"points": 1, "bad_index_points": 2, "box": {"min": [2, 0, 0], "max": [2, 0, 0]}}),
     ("an LOD shows its first child", """Separator {
        LOD { range [ 0.001 ] Cube { width 4 } Cube { width 1 } } }""",
      {"lod_nodes": 1, "box": {"min": [-2, -1, -1], "max": [2, 1, 1]}}),
