@@ -522,7 +522,7 @@ int chooseFirstLevels(SoNode* root) {
   SoPathList& paths = search.getPaths();
   std::set<SoNode*> replaced;
   for (int i = 0; i < paths.getLength(); ++i) {
-    SoFullPath* path = static_cast<SoFullPath*>(paths[i]);
+    SoPath* path = paths[i];
     SoNode* lod = path->getTail();
     if (path->getLength() < 2 || !replaced.insert(lod).second) continue;
     SoGroup* lodGroup = static_cast<SoGroup*>(lod);
@@ -537,7 +537,7 @@ int chooseFirstLevels(SoNode* root) {
     parents.apply(root);
     SoPathList& holders = parents.getPaths();
     for (int h = 0; h < holders.getLength(); ++h) {
-      SoFullPath* holder = static_cast<SoFullPath*>(holders[h]);
+      SoPath* holder = holders[h];
       SoNode* parent = holder->getNodeFromTail(1);
       if (parent->isOfType(SoGroup::getClassTypeId())) {
         SoGroup* group = static_cast<SoGroup*>(parent);

@@ -491,7 +491,7 @@ void readInlines(SoNode* root, const std::string& directory, int depth) {
   SoPathList& paths = search.getPaths();
   std::set<SoNode*> done;
   for (int i = 0; i < paths.getLength(); ++i) {
-    SoWWWInline* node = static_cast<SoWWWInline*>(static_cast<SoFullPath*>(paths[i])->getTail());
+    SoWWWInline* node = static_cast<SoWWWInline*>(paths[i]->getTail());
     if (!done.insert(node).second || node->getChildData() != nullptr) continue;
     std::string name = node->name.getValue().getString();
     if (name.empty() || name.find("://") != std::string::npos) continue;

@@ -382,7 +382,11 @@ class ExportCheck:
         if code != 0 or warnings:
             self.fail(f"tovrmlx3d does not read the X3D cleanly (status {code}):\n{err}")
         shot = x3d.with_suffix(".png")
-        code, out, err = self.tool(["xvfb-run", "-a", "view3dscene", str(x3d), "--screenshot", "0", str(shot)])
+        # Two X servers started at once may pick the same display: then again.
+        for _ in range(3):
+            code, out, err = self.tool(["xvfb-run", "-a", "view3dscene", str(x3d), "--screenshot", "0", str(shot)])
+            if "Xvfb failed to start" not in out + err:
+                break
         if code != 0 or "Error" in out + err or not shot.exists():
             self.fail(f"view3dscene does not load the X3D (status {code}):\n{out}{err}")
 
