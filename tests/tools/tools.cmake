@@ -8,7 +8,7 @@ if(NOT Coin_FOUND)
   return()
 endif()
 
-add_executable(vrml1check ${CMAKE_CURRENT_LIST_DIR}/vrml1check.cpp)
+add_executable(vrml1check ${CMAKE_CURRENT_LIST_DIR}/vrml1check.cpp ${CMAKE_CURRENT_LIST_DIR}/SceneFigures.cpp)
 target_link_libraries(vrml1check PRIVATE Coin::Coin)
 
 # Tests check written scenes with it through IndependentReader.h.

@@ -6,6 +6,8 @@
 //   vrml1check canon FILE [--first] [--all-fields]
 //   vrml1check compare A B [--tolerance T] [--first-b]
 //   vrml1check roundtrip FILE
+//   vrml1check figures FILE [--complexity C] [--primitives]
+//                     (JSON, or the list of primitives; see SceneFigures.cpp)
 //
 // Exit status: 0 success, 1 a read error or (compare) a difference, 2 usage.
 #include <Inventor/SoDB.h>
@@ -19,6 +21,11 @@
 #include <Inventor/lists/SoFieldList.h>
 #include <Inventor/misc/SoChildList.h>
 #include <Inventor/nodes/SoNode.h>
+#include <Inventor/nodes/SoSeparator.h>
+#include <Inventor/nodes/SoWWWInline.h>
+#include <Inventor/actions/SoSearchAction.h>
+#include <Inventor/SoPath.h>
+#include <Inventor/lists/SoPathList.h>
 
 #include <algorithm>
 #include <cctype>
@@ -30,6 +37,8 @@
 #include <set>
 #include <string>
 #include <vector>
+
+#include "SceneFigures.h"
 
 #if defined(__SANITIZE_ADDRESS__)
 #include <sanitizer/lsan_interface.h>
@@ -61,7 +70,8 @@ const char kUsage[] =
     "usage: vrml1check read FILE\n"
     "       vrml1check canon FILE [--first] [--all-fields]\n"
     "       vrml1check compare A B [--tolerance T] [--first-b]\n"
-    "       vrml1check roundtrip FILE\n";
+    "       vrml1check roundtrip FILE\n"
+    "       vrml1check figures FILE [--complexity C] [--primitives]\n";
 
 // ---------------------------------------------------------------------------
 // Loading
@@ -464,6 +474,52 @@ int runRoundtrip(const char* path) {
   return kExitOk;
 }
 
+// WWWInline children are read from local files (relative names from the
+// directory of the file that names them), as the exporter reads them; a name
+// that cannot be read leaves the node empty, with a note.
+std::string directoryOf(const std::string& path) {
+  size_t slash = path.rfind('/');
+  return slash == std::string::npos ? std::string(".") : path.substr(0, slash);
+}
+
+void readInlines(SoNode* root, const std::string& directory, int depth) {
+  SoSearchAction search;
+  search.setType(SoWWWInline::getClassTypeId());
+  search.setInterest(SoSearchAction::ALL);
+  search.setSearchingAll(TRUE);
+  search.apply(root);
+  SoPathList& paths = search.getPaths();
+  std::set<SoNode*> done;
+  for (int i = 0; i < paths.getLength(); ++i) {
+    SoWWWInline* node = static_cast<SoWWWInline*>(paths[i]->getTail());
+    if (!done.insert(node).second || node->getChildData() != nullptr) continue;
+    std::string name = node->name.getValue().getString();
+    if (name.empty() || name.find("://") != std::string::npos) continue;
+    std::string path = name[0] == '/' ? name : directory + "/" + name;
+    SoInput input;
+    SoSeparator* content = nullptr;
+    if (depth < 8 && input.openFile(path.c_str(), TRUE)) content = SoDB::readAll(&input);
+    if (content == nullptr) {
+      note("WWWInline \"" + name + "\" cannot be read: left empty");
+      continue;
+    }
+    readInlines(content, directoryOf(path), depth + 1);
+    node->setChildData(content);
+  }
+}
+
+int runFigures(const char* path, double complexity, bool listPrimitives) {
+  Scene scene;
+  if (!loadScene(path, scene)) return kExitFailed;
+  for (SoNode* root : scene.roots) readInlines(root, directoryOf(path), 0);
+  figures::Options options;
+  options.complexity = complexity;
+  options.listPrimitives = listPrimitives;
+  std::string json = figures::computeJson(scene.roots, options);
+  std::fwrite(json.data(), 1, json.size(), stdout);
+  return kExitOk;
+}
+
 bool parseTolerance(const char* text, double& tolerance) {
   char* end = nullptr;
   tolerance = std::strtod(text, &end);
@@ -486,6 +542,8 @@ int main(int argc, char** argv) {
   bool firstOfB = false;
   bool allFields = false;
   double tolerance = 1e-4;
+  double complexity = -1;
+  bool listPrimitives = false;
   for (int i = 2; i < argc; ++i) {
     std::string arg = argv[i];
     if (arg == "--first" && command == "canon") {
@@ -496,6 +554,10 @@ int main(int argc, char** argv) {
       firstOfB = true;
     } else if (arg == "--tolerance" && command == "compare" && i + 1 < argc) {
       if (!parseTolerance(argv[++i], tolerance)) return usage();
+    } else if (arg == "--primitives" && command == "figures") {
+      listPrimitives = true;
+    } else if (arg == "--complexity" && command == "figures" && i + 1 < argc) {
+      if (!parseTolerance(argv[++i], complexity) || complexity > 1) return usage();
     } else if (arg.size() > 1 && arg[0] == '-') {
       return usage();
     } else {
@@ -510,5 +572,6 @@ int main(int argc, char** argv) {
     return runCompare(files[0].c_str(), files[1].c_str(), tolerance, firstOfB);
   }
   if (command == "roundtrip" && files.size() == 1) return runRoundtrip(files[0].c_str());
+  if (command == "figures" && files.size() == 1) return runFigures(files[0].c_str(), complexity, listPrimitives);
   return usage();
 }
