@@ -7,12 +7,16 @@ RELEASE_DIR := build/release
 TEST_DIR := build/test
 DEMO_SCENE ?= examples/expressions.vlm
 
-.PHONY: all deps release release-bench demo test bench bench-generators gallery fuzz clean
+.PHONY: all deps test-deps release release-bench demo test bench bench-generators gallery fuzz clean
 
 all: release
 
+# What building needs, and what the test suite (and the gallery) add.
 deps:
-	@scripts/install-deps.sh
+	@scripts/install-deps.sh build
+
+test-deps:
+	@scripts/install-deps.sh test
 
 RELEASE_CONFIGURE := cmake -S . -B $(RELEASE_DIR) -DCMAKE_BUILD_TYPE=Release -DLUMERIC_TESTS=OFF
 
@@ -31,7 +35,7 @@ release-bench:
 demo: release
 	$(RELEASE_DIR)/lumeric -o - $(DEMO_SCENE)
 
-test: deps
+test: test-deps
 	cmake -S . -B $(TEST_DIR) -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g" -DLUMERIC_SANITIZE=ON >/dev/null
 	cmake --build $(TEST_DIR) -j $(JOBS)
 	cd $(TEST_DIR) && ctest --output-on-failure -j $(JOBS)
@@ -53,7 +57,7 @@ bench-generators: release
 
 # Translates every example scene and renders a picture of each into
 # docs/gallery/.
-gallery: release
+gallery: release test-deps
 	scripts/gallery.sh $(RELEASE_DIR)/lumeric
 
 clean:
