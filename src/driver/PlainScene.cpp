@@ -75,7 +75,27 @@ bool readPlainScene(FILE* file, const char* name, const RunLimits& limits, const
   PlainReading reading;
   currentReading = &reading;
   QvNode* root = readRootOf(reading, file, name, complete);
-  if (root != nullptr) use(root);
+  if (root == nullptr) return complete;
+  // Inlined files add inputs of their own while the root is used.
+  QvSceneInput& input = *reading.inputs.back();
+  use(root);
+  // A file may hold further roots after the first (a translation whose
+  // root was a LOOP writes one for each repetition); viewers show them
+  // all, each starting from the default state.
+  while (complete && !input.eof()) {
+    QvNode* next = nullptr;
+    if (theContext.pushFile(name, file)) {
+      QvDefTable* outer = theRun.defNames;
+      theRun.defNames = &input.defNames();
+      complete = readScene(&input, next);
+      theRun.defNames = outer;
+      theContext.popFile();
+    }
+    if (next == nullptr) break;
+    next->ref();
+    reading.roots.push_back(next);
+    use(next);
+  }
   return complete;
 }
 

@@ -17,8 +17,8 @@ class QvNode;
 // Reads `file` (named `name` for positions) as plain VRML 1.0 in a run of
 // its own (extensions off, nothing posted), with `limits` as the run's
 // limits and, when they confine, `confinedTo` as the directory allowed.
-// Hands the root to `use` (not called when nothing could be read), then
-// resets the run: every node, term and atom dies with it.  Returns whether
+// Hands each root to `use`, in the order of the file (not called when
+// nothing could be read), then resets the run: every node, term and atom dies with it.  Returns whether
 // the whole file was read without error.
 bool readPlainScene(FILE* file, const char* name, const RunLimits& limits, const char* confinedTo,
                     const std::function<void(QvNode* root)>& use);

@@ -8,11 +8,13 @@ namespace lumeric {
 
 namespace {
 
+// Element `index` of a material list; an index past the end wraps around,
+// as viewers cycle through a list shorter than the binding needs.
 template <class T>
 const T& valueAt(const std::vector<T>& list, int index, const T& fallback) {
   if (list.empty()) return fallback;
-  if (index >= 0 && static_cast<size_t>(index) < list.size()) return list[static_cast<size_t>(index)];
-  return list.front();
+  if (index < 0) return list.front();
+  return list[static_cast<size_t>(index) % list.size()];
 }
 
 size_t hashOf(const ExportMaterial& m) {

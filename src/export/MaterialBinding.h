@@ -31,7 +31,7 @@ inline bool bindsIndexed(int binding) {
 }
 
 // Material value `index` of the state's Material: each list gives its
-// element `index`, or its first element when it is shorter.  Texture and
+// element `index`, counted round the list when it is shorter.  Texture and
 // the sides seen come from the state and the caller.
 ExportMaterial materialValue(const TraversalState& state, int index, bool doubleSided, bool unlit);
 // The material of a primitive coloured per vertex: value 0 with a white

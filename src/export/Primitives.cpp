@@ -17,13 +17,24 @@ namespace {
 
 constexpr double kPi = 3.14159265358979323846;
 
+// Which bindings colour a primitive part by part: a Cube's faces are its
+// parts, so the face bindings colour them too; a Cone's or a Cylinder's
+// parts take their own materials only under the part bindings, and the
+// whole shape takes the first material otherwise.
+enum class PartBinding { kPartsAndFaces, kPartsOnly };
+
+bool colouredByPart(int binding, PartBinding rule) {
+  if (rule == PartBinding::kPartsAndFaces) return bindsPerPart(binding);
+  return binding == kBindPerPart || binding == kBindPerPartIndexed;
+}
+
 // What every primitive shares: its builder, its materials and the texture
 // transformation of the state.
 class PrimitiveBuilder {
  public:
-  PrimitiveBuilder(ShapeContext& context, bool closed)
+  PrimitiveBuilder(ShapeContext& context, bool closed, PartBinding rule = PartBinding::kPartsAndFaces)
       : context_(context), texturing_(context.state.texture >= 0), builder_(texturing_, false),
-        perPart_(bindsPerPart(context.state.materialBinding)), doubleSided_(!closed) {}
+        perPart_(colouredByPart(context.state.materialBinding, rule)), doubleSided_(!closed) {}
 
   // The material of part `part`.
   int material(int part) {
@@ -151,7 +162,7 @@ ExportMesh sphereMesh(QvSphere& node, ShapeContext& context) {
 
 ExportMesh cylinderMesh(QvCylinder& node, ShapeContext& context) {
   const int parts = node.parts.value;
-  PrimitiveBuilder b(context, (parts & 7) == 7);
+  PrimitiveBuilder b(context, (parts & 7) == 7, PartBinding::kPartsOnly);
   const double r = numberIn(node.radius), h = numberIn(node.height) / 2;
   const int segments = segmentsOf(context);
   if (parts & 1) {
@@ -171,7 +182,7 @@ ExportMesh cylinderMesh(QvCylinder& node, ShapeContext& context) {
 
 ExportMesh coneMesh(QvCone& node, ShapeContext& context) {
   const int parts = node.parts.value;
-  PrimitiveBuilder b(context, (parts & 3) == 3);
+  PrimitiveBuilder b(context, (parts & 3) == 3, PartBinding::kPartsOnly);
   const double r = numberIn(node.bottomRadius), height = numberIn(node.height), h = height / 2;
   const int segments = segmentsOf(context);
   if (parts & 1) {

@@ -62,10 +62,8 @@ void buildPlainExportScene(FILE* text, const char* path, const RunLimits& limits
   ExportMessages messages(view);
   const std::string confinedTo = limits.confine ? resolvedDirectoryOf(path) : std::string();
   try {
-    readPlainScene(text, path, limits, confinedTo.c_str(), [&](QvNode* root) {
-      SceneTraversal traversal(scene, messages, options, path);
-      traversal.traverse(root);
-    });
+    SceneTraversal traversal(scene, messages, options, path);
+    readPlainScene(text, path, limits, confinedTo.c_str(), [&](QvNode* root) { traversal.traverse(root); });
   } catch (const std::exception&) {
     scene = ExportScene();
     messages.error("Out of memory");

@@ -37,9 +37,9 @@ const BindingCase kFaceSetCases[] = {
     {"PER_PART_INDEXED", "2, 1", 0, 2, 1, false},
     {"PER_FACE_INDEXED", "2, 1", 0, 2, 1, false},
     // Per vertex the first corner of each triangle gives its colour here:
-    // vertex 0 is red, vertex 4 beyond the three materials takes the
-    // first...
-    {"PER_VERTEX", "-1", 3, 0, 0, true},
+    // vertex 0 is red, vertex 4, beyond the three materials, counts round
+    // the list to green...
+    {"PER_VERTEX", "-1", 1, 2, 0, true},
     // ...and the materials of the corners' own entries when indexed.
     {"PER_VERTEX_INDEXED", "1, 1, 1, 1, -1, 2, 2, 2, 2, -1", 0, 1, 2, true},
 };
@@ -74,9 +74,10 @@ TEST(FaceSetBinding, PerVertexColoursFollowTheVertices) {
   ASSERT_EQ(run.scene.meshes.size(), 1u);
   const ExportPrimitive& p = run.scene.meshes[0].primitives[0];
   // Vertices in coordIndex order take materials 0, 1, 2 and then, beyond
-  // the list, the first again.
-  const std::map<std::pair<int, int>, Rgb> expected{{{0, 0}, kRed}, {{1, 0}, kGreen}, {{1, 1}, kBlue}, {{0, 1}, kRed},
-                                                    {{2, 0}, kRed}, {{4, 0}, kRed},   {{4, 1}, kRed},  {{2, 1}, kRed}};
+  // the list, count round it again: 0, 1, 2, 0, 1.
+  const std::map<std::pair<int, int>, Rgb> expected{{{0, 0}, kRed},   {{1, 0}, kGreen}, {{1, 1}, kBlue},
+                                                    {{0, 1}, kRed},   {{2, 0}, kGreen}, {{4, 0}, kBlue},
+                                                    {{4, 1}, kRed},   {{2, 1}, kGreen}};
   ASSERT_EQ(p.vertexCount(), 8u);
   for (size_t v = 0; v < p.vertexCount(); ++v) {
     const std::pair<int, int> at{static_cast<int>(p.positions[v * 3]), static_cast<int>(p.positions[v * 3 + 1])};
@@ -111,6 +112,17 @@ TEST(PrimitiveBinding, PartsTakeTheirMaterialsInOrder) {
   EXPECT_NEAR(f.areaByColor[kRed], 24 * 2 * std::sin(pi / 24) * 2, 1e-5);
   EXPECT_NEAR(f.areaByColor[kGreen], 12 * std::sin(2 * pi / 24), 1e-5);
   EXPECT_NEAR(f.areaByColor[kBlue], 12 * std::sin(2 * pi / 24), 1e-5);
+
+  // A cone's or a cylinder's parts are not faces: under a face binding the
+  // first material covers the whole shape.
+  for (const char* shape : {"Cone {}", "Cylinder {}"}) {
+    const ExportRun perFace = exportText(plainScene(std::string("Separator { Material { diffuseColor [ 1 0 0, 0 1 0 ] }"
+                                                                " MaterialBinding { value PER_FACE } ") +
+                                                    shape + " }"));
+    const auto areas = figuresOf(perFace.scene).areaByColor;
+    EXPECT_EQ(areas.count(kGreen), 0u) << shape;
+    EXPECT_GT(areas.at(kRed), 0) << shape;
+  }
 
   // OVERALL: the first material everywhere.
   const ExportRun overall = exportText(plainScene(

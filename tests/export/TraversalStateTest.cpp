@@ -256,5 +256,17 @@ TEST(ExportScene, ExtendedSceneExportsItsTranslation) {
   expectBox(figuresOf(run.scene), {-1, -1, -1, 7, 1, 1});
 }
 
+// A LOOP at the top writes one root for each repetition; every root is
+// shown, each from the default state (the first root's Translation does
+// not move the second).
+TEST(ExportScene, EveryRootOfTheTranslationIsExported) {
+  const ExportRun run = exportText(
+      "#VRML V1.0 ascii\nLOOP { fields [ SFFloat start, SFFloat end, SFFloat position ]"
+      " start 0 end 2 position 0 Group { Translation { translation =(position*3, 0, 0) } Cube {} } }\n",
+      ExportOptions(), nullptr, "scene.vlm");
+  EXPECT_EQ(run.scene.nodes.size(), 2u);
+  expectBox(figuresOf(run.scene), {-1, -1, -1, 4, 1, 1});
+}
+
 }  // namespace
 }  // namespace lumeric
