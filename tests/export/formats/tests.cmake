@@ -1,0 +1,21 @@
+# The exporter's format writers, fed hand-built scenes and read back by
+# independent readers where one is installed (admesh, assimp, view3dscene,
+# tinygltf's loader, the Khronos glTF validator).
+add_executable(lumeric_export_format_tests
+  support/RecordingView.cpp
+  support/SceneRunner.cpp
+  support/LibrarySetUp.cpp
+  export/formats/ExportTestScenes.cpp
+  export/formats/StlWriterTest.cpp
+)
+target_include_directories(lumeric_export_format_tests PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+target_include_directories(lumeric_export_format_tests SYSTEM PRIVATE ${LUMERIC_TINYGLTF_INCLUDE_DIR})
+target_link_libraries(lumeric_export_format_tests PRIVATE
+  lumeric_export_static lumeric_core nlohmann_json::nlohmann_json GTest::gtest GTest::gtest_main)
+target_compile_definitions(lumeric_export_format_tests PRIVATE
+  LUMERIC_CLI_PATH="$<TARGET_FILE:lumeric_cli>"
+  LUMERIC_TEST_DIR="${CMAKE_CURRENT_SOURCE_DIR}"
+  LUMERIC_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+gtest_discover_tests(lumeric_export_format_tests DISCOVERY_MODE PRE_TEST
+  WORKING_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}
+  PROPERTIES TIMEOUT 300)
