@@ -3,7 +3,8 @@
 # Debian packages only; needs root (or sudo) the first time.
 set -euo pipefail
 
-packages=(cmake g++ make bison libgtest-dev libbenchmark-dev libcoin-dev binutils pkg-config groff-base)
+packages=(cmake g++ make bison libgtest-dev libbenchmark-dev libcoin-dev binutils pkg-config groff-base
+  libtinygltf-dev nlohmann-json3-dev libstb-dev admesh assimp-utils view3dscene xvfb xauth)
 # `install-deps.sh fuzz` adds clang and its libFuzzer runtime.
 if [ "${1:-}" = fuzz ]; then packages+=(clang libclang-rt-dev); fi
 missing=()

@@ -85,8 +85,11 @@ class GltfBuilder {
     model_.buffers.emplace_back();
     tinygltf::Scene gltfScene;
     for (const ExportNode& node : scene_.nodes) addNode(node, gltfScene.nodes);
-    model_.scenes.push_back(gltfScene);
-    model_.defaultScene = 0;
+    // A scene must list a node: an empty file has none.
+    if (!gltfScene.nodes.empty()) {
+      model_.scenes.push_back(gltfScene);
+      model_.defaultScene = 0;
+    }
     // A buffer of no bytes is invalid: an empty scene has none.
     if (data().empty()) model_.buffers.clear();
     return std::move(model_);
@@ -100,10 +103,11 @@ class GltfBuilder {
     int material;
     bool vertexColors;
     bool translucentColors;
+    bool textured;  // the primitive has texture coordinates
     bool transformBaked;
     bool operator<(const MaterialKey& o) const {
-      return std::tie(material, vertexColors, translucentColors, transformBaked) <
-             std::tie(o.material, o.vertexColors, o.translucentColors, o.transformBaked);
+      return std::tie(material, vertexColors, translucentColors, textured, transformBaked) <
+             std::tie(o.material, o.vertexColors, o.translucentColors, o.textured, o.transformBaked);
     }
   };
 
@@ -224,8 +228,8 @@ class GltfBuilder {
     const std::array<float, 3>& color = source.unlit && !emissiveBlack ? source.emissive : source.diffuse;
     const double alpha = key.vertexColors ? 1.0 : clamp01(1.0 - source.transparency);
     tinygltf::PbrMetallicRoughness& pbr = gltf.pbrMetallicRoughness;
+    pbr.baseColorFactor.assign(4, alpha);
     for (int i = 0; i < 3; ++i) pbr.baseColorFactor[i] = key.vertexColors ? 1.0 : clamp01(color[i]);
-    pbr.baseColorFactor[3] = alpha;
     pbr.metallicFactor = 0;
     pbr.roughnessFactor = clamp01(1.0 - source.shininess);
     if (alpha < 1 || key.translucentColors) gltf.alphaMode = "BLEND";
@@ -234,9 +238,10 @@ class GltfBuilder {
       gltf.extensions["KHR_materials_unlit"] = tinygltf::Value(tinygltf::Value::Object());
       useExtension("KHR_materials_unlit");
     } else {
-      for (int i = 0; i < 3; ++i) gltf.emissiveFactor[i] = clamp01(source.emissive[i]);
+      gltf.emissiveFactor = {clamp01(source.emissive[0]), clamp01(source.emissive[1]), clamp01(source.emissive[2])};
     }
-    const int textureIndex = texture(source.texture);
+    // A texture needs texture coordinates: without them the colour alone.
+    const int textureIndex = key.textured ? texture(source.texture) : -1;
     if (textureIndex >= 0) {
       pbr.baseColorTexture.index = textureIndex;
       TextureTransformParts parts;
@@ -289,8 +294,8 @@ class GltfBuilder {
     if (!source.normals.empty()) primitive.attributes["NORMAL"] = addFloats(unitNormals(source, placement), 3, false);
 
     const ExportMaterial& material = sceneMaterial(source.material);
-    MaterialKey key{source.material, !source.colors.empty(), false, false};
-    if (!source.texCoords.empty()) {
+    MaterialKey key{source.material, !source.colors.empty(), false, !source.texCoords.empty(), false};
+    if (key.textured) {
       TextureTransformParts unused;
       key.transformBaked = !isIdentityTextureTransform(material.textureTransform) &&
                            !gltfTextureTransform(material.textureTransform, unused);
@@ -370,8 +375,10 @@ class GltfBuilder {
       camera.perspective.yfov = angle > 0 && angle < kPi ? angle : kPi / 4;
       camera.perspective.aspectRatio = aspect;
       camera.perspective.znear = source.nearDistance > 0 ? source.nearDistance : 0.001;
-      // No far plane (infinite) when the scene's is not beyond the near one.
-      camera.perspective.zfar = source.farDistance > camera.perspective.znear ? source.farDistance : 0.0;
+      // tinygltf always writes a far plane: one far off when the scene's is
+      // not beyond the near one.
+      camera.perspective.zfar =
+          source.farDistance > camera.perspective.znear ? source.farDistance : camera.perspective.znear * 1e6;
     } else {
       camera.type = "orthographic";
       const double height = source.height > 0 && std::isfinite(source.height) ? source.height : 2.0;

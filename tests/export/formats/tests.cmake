@@ -6,6 +6,7 @@ add_executable(lumeric_export_format_tests
   support/SceneRunner.cpp
   support/LibrarySetUp.cpp
   export/formats/ExportTestScenes.cpp
+  export/formats/GltfWriterTest.cpp
   export/formats/StlWriterTest.cpp
 )
 target_include_directories(lumeric_export_format_tests PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
