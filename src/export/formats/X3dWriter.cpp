@@ -174,16 +174,16 @@ class X3dBuilder {
 
   void addMeshNode(const ExportNode& node, std::string& out) {
     const ExportMesh& mesh = scene_.meshes[node.mesh];
+    // The node's name is taken first, in document order.
+    std::string def;
+    defAttribute(def, node.name, "");
     MatrixParts parts;
     const bool transform = decomposeMatrix(node.matrix, parts) && parts.scale[0] > 0;
     if (!transform) {
       const WorldPlacement placement(node.matrix);
       std::string shapes;
       for (const ExportPrimitive& primitive : mesh.primitives) addShape(primitive, &placement, shapes, "      ");
-      if (shapes.empty()) return;
-      out += "    <Group";
-      defAttribute(out, node.name, "");
-      out += ">\n" + shapes + "    </Group>\n";
+      if (!shapes.empty()) out += "    <Group" + def + ">\n" + shapes + "    </Group>\n";
       return;
     }
     auto defined = meshGroups_.find(node.mesh);
@@ -192,15 +192,15 @@ class X3dBuilder {
       if (defined->second.empty()) return;  // nothing of it could be written
       group = "      <Group USE=\"" + defined->second + "\"/>\n";
     } else {
+      std::string& name = meshGroups_[node.mesh];
+      const std::string groupName = names_.make(mesh.name, "mesh" + std::to_string(node.mesh + 1));
       std::string shapes;
       for (const ExportPrimitive& primitive : mesh.primitives) addShape(primitive, nullptr, shapes, "        ");
-      std::string& name = meshGroups_[node.mesh];
       if (shapes.empty()) return;
-      name = names_.make(mesh.name, "mesh" + std::to_string(node.mesh + 1));
+      name = groupName;
       group = "      <Group DEF=\"" + name + "\">\n" + shapes + "      </Group>\n";
     }
-    out += "    <Transform";
-    defAttribute(out, node.name, "");
+    out += "    <Transform" + def;
     if (parts.translation != std::array<double, 3>{{0, 0, 0}}) numbers(out, "translation", parts.translation.data(), 3);
     if (parts.rotation != std::array<double, 4>{{0, 0, 0, 1}}) {
       numbers(out, "rotation", axisAngle(parts.rotation).data(), 4);

@@ -7,7 +7,9 @@ add_executable(lumeric_export_format_tests
   support/LibrarySetUp.cpp
   export/formats/ExportTestScenes.cpp
   export/formats/GltfWriterTest.cpp
+  export/formats/ObjWriterTest.cpp
   export/formats/StlWriterTest.cpp
+  export/formats/X3dWriterTest.cpp
 )
 target_include_directories(lumeric_export_format_tests PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 target_include_directories(lumeric_export_format_tests SYSTEM PRIVATE ${LUMERIC_TINYGLTF_INCLUDE_DIR})
