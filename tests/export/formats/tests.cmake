@@ -6,7 +6,9 @@ add_executable(lumeric_export_format_tests
   support/SceneRunner.cpp
   support/LibrarySetUp.cpp
   export/formats/ExportTestScenes.cpp
+  export/formats/ExportFilesTest.cpp
   export/formats/GltfWriterTest.cpp
+  export/formats/MatrixPartsTest.cpp
   export/formats/ObjWriterTest.cpp
   export/formats/StlWriterTest.cpp
   export/formats/X3dWriterTest.cpp
