@@ -24,3 +24,13 @@ target_compile_definitions(lumeric_export_format_tests PRIVATE
 gtest_discover_tests(lumeric_export_format_tests DISCOVERY_MODE PRE_TEST
   WORKING_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}
   PROPERTIES TIMEOUT 300)
+
+# The exporter's shared library seen from a host program, and its exports.
+add_executable(lumeric_export_host_program export/formats/ExportHostProgram.cpp)
+target_include_directories(lumeric_export_host_program PRIVATE ${PROJECT_SOURCE_DIR}/include)
+target_link_libraries(lumeric_export_host_program PRIVATE lumeric_export)
+add_test(NAME export.host_program
+  COMMAND lumeric_export_host_program ${CMAKE_CURRENT_SOURCE_DIR}/host/host_scene.vlm
+  WORKING_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR})
+add_test(NAME export.library_exports
+  COMMAND ${CMAKE_CURRENT_LIST_DIR}/check_export_symbols.sh $<TARGET_FILE:lumeric_export>)
