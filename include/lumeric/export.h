@@ -18,8 +18,7 @@ extern "C" {
 // statements open nothing.  An OBJ's material library and the textures of
 // OBJ and X3D are written beside `outputPath`.  Every file is written whole
 // or not at all.  A scene with errors exports what was translated; nothing
-// is written when the scene shows nothing and an error was posted (the
-// input could not be opened, for instance).  Messages go to `view`, which
+// is written when the input cannot be opened.  Messages go to `view`, which
 // may be null.
 // Returns 0 when no error was posted, else 1.
 LUMERIC_EXPORT int ExportVRMLLumeric(const char* inputPath, const char* outputPath, const char* format,

@@ -1,5 +1,8 @@
 #include "export/formats/ExportRun.h"
 
+#include <string>
+
+#include "core/FileAccess.h"
 #include "export/ExportMessages.h"
 #include "export/formats/ExportFiles.h"
 #include "export/formats/FormatWriters.h"
@@ -23,6 +26,20 @@ class CountingView : public CReportErrorView {
   int errors_ = 0;
 };
 
+bool opens(const std::string& path) {
+  int errorNumber = 0;
+  FILE* file = openForReading(path.c_str(), errorNumber);
+  if (file != nullptr) std::fclose(file);
+  return file != nullptr;
+}
+
+// Whether the translation finds its input: as given, else under
+// `directory`.
+bool inputOpens(const char* inputPath, const char* directory) {
+  const std::string input = inputPath != nullptr ? inputPath : "";
+  return opens(input) || (directory != nullptr && opens(directory + input));
+}
+
 int translateOnly(const ExportRequest& request, CountingView& view) {
   OutputOverride output;
   output.stream = request.stream;
@@ -37,12 +54,13 @@ int translateOnly(const ExportRequest& request, CountingView& view) {
 int runExport(const ExportRequest& request, CReportErrorView* view) {
   CountingView counting(view);
   if (request.format == ExportFormat::kWrl) return translateOnly(request, counting);
+  // As the translation writes what it translated, errors or not, an
+  // export is written whenever the input was read.
+  const bool inputRead = inputOpens(request.inputPath, request.directory);
   ExportScene scene;
   buildExportScene(request.inputPath, &counting, request.directory, request.additions, request.options, scene);
+  if (!inputRead) return counting.errors();
   if (request.additions != nullptr && !request.additions->overrideError.empty()) return counting.errors();
-  // A scene that shows nothing because it failed (an input that could not
-  // be opened) writes no file.
-  if (counting.errors() > 0 && scene.nodes.empty()) return counting.errors();
   {
     ExportMessages messages(&counting);
     ExportedFiles files;
