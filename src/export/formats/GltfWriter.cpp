@@ -18,7 +18,8 @@
 // coordinates when it shears.
 #include <cmath>
 #include <map>
-#include <sstream>
+#include <ostream>
+#include <streambuf>
 #include <tuple>
 
 #include "export/formats/ExportText.h"
@@ -273,13 +274,15 @@ class GltfBuilder {
     }
     if (source.indices.empty()) return;
     const size_t count = source.vertexCount();
-    std::vector<float> positions(source.positions);
+    std::vector<float> placed;
     if (placement != nullptr) {
+      placed.resize(source.positions.size());
       for (size_t v = 0; v < count; ++v) {
         const std::array<double, 3> p = placement->point(&source.positions[v * 3]);
-        for (int i = 0; i < 3; ++i) positions[v * 3 + i] = static_cast<float>(p[i]);
+        for (int i = 0; i < 3; ++i) placed[v * 3 + i] = static_cast<float>(p[i]);
       }
     }
+    const std::vector<float>& positions = placement != nullptr ? placed : source.positions;
     for (float value : positions) {
       if (!std::isfinite(value)) {
         messages_.countWarning("Primitive with a coordinate that is not finite left out");
@@ -309,11 +312,13 @@ class GltfBuilder {
       }
       primitive.attributes["COLOR_0"] = addFloats(colors, 4, false);
     }
-    std::vector<uint32_t> indices(source.indices);
     if (placement != nullptr && placement->mirrored() && source.mode == PrimitiveMode::kTriangles) {
-      for (size_t t = 0; t < indices.size(); t += 3) std::swap(indices[t + 1], indices[t + 2]);
+      std::vector<uint32_t> reversed(source.indices);
+      for (size_t t = 0; t < reversed.size(); t += 3) std::swap(reversed[t + 1], reversed[t + 2]);
+      primitive.indices = addIndices(reversed, count);
+    } else {
+      primitive.indices = addIndices(source.indices, count);
     }
-    primitive.indices = addIndices(indices, count);
     primitive.material = gltfMaterial(key);
     mesh.primitives.push_back(primitive);
   }
@@ -495,17 +500,39 @@ class GltfBuilder {
   std::map<std::pair<bool, bool>, int> samplers_;
 };
 
+// A stream that appends to a string, so that the file is not copied once
+// more when it is done.
+class StringBuffer : public std::streambuf {
+ public:
+  explicit StringBuffer(std::string& out) : out_(out) {}
+
+ protected:
+  std::streamsize xsputn(const char* text, std::streamsize count) override {
+    out_.append(text, static_cast<size_t>(count));
+    return count;
+  }
+  int_type overflow(int_type c) override {
+    if (!traits_type::eq_int_type(c, traits_type::eof())) out_ += traits_type::to_char_type(c);
+    return traits_type::not_eof(c);
+  }
+
+ private:
+  std::string& out_;
+};
+
 bool writeGltfFile(const ExportScene& scene, const std::string& path, bool binary, ExportedFiles& files,
                    ExportMessages& messages) {
   try {
     const tinygltf::Model model = GltfBuilder(scene, messages).build();
-    std::ostringstream stream;
+    std::string bytes;
+    StringBuffer buffer(bytes);
+    std::ostream stream(&buffer);
     tinygltf::TinyGLTF writer;
     if (!writer.WriteGltfSceneToStream(&model, stream, !binary, binary) || !stream) {
       messages.error("Could not encode " + path + " as glTF");
       return false;
     }
-    files.push_back(ExportedFile{path, stream.str()});
+    files.push_back(ExportedFile{path, std::move(bytes)});
     return true;
   } catch (const std::bad_alloc&) {
     messages.error("Out of memory");
