@@ -31,6 +31,12 @@ std::string generatorName() { return std::string("lumeric ") + LUMERIC_VERSION; 
 void appendNumber(std::string& out, double value) { appendShortest(out, value); }
 void appendNumber(std::string& out, float value) { appendShortest(out, value); }
 
+void appendInteger(std::string& out, size_t value) {
+  char buffer[24];
+  const std::to_chars_result result = std::to_chars(buffer, buffer + sizeof buffer, value);
+  out.append(buffer, result.ptr);
+}
+
 std::string UniqueNames::make(const std::string& name, const std::string& fallback) {
   std::string safe;
   for (char c : name) safe += isNameCharacter(c) ? c : '_';
@@ -39,7 +45,8 @@ std::string UniqueNames::make(const std::string& name, const std::string& fallba
   if (!usable) safe = fallback.empty() ? "_" : fallback;
   if (safe[0] == '-' || (safe[0] >= '0' && safe[0] <= '9')) safe = "_" + safe;
   std::string unique = safe;
-  for (int n = 2; taken_.count(unique) != 0; ++n) unique = safe + "_" + std::to_string(n);
+  int& next = next_.emplace(safe, 2).first->second;
+  while (taken_.count(unique) != 0) unique = safe + "_" + std::to_string(next++);
   taken_.insert(unique);
   return unique;
 }

@@ -19,6 +19,7 @@ std::string generatorName();
 // not finite is written as 0.
 void appendNumber(std::string& out, double value);
 void appendNumber(std::string& out, float value);
+void appendInteger(std::string& out, size_t value);
 
 // Names unique within one file, made of letters, digits, '_' and '-' and
 // never starting with a digit or '-' (valid as an XML name and as an OBJ or
@@ -30,6 +31,9 @@ class UniqueNames {
 
  private:
   std::set<std::string> taken_;
+  // The next number to try after each name, so that many nodes of one
+  // name take linear time.
+  std::map<std::string, int> next_;
 };
 
 // A companion of the main file `path`: the same directory and base name

@@ -119,11 +119,15 @@ class ObjBuilder {
 
   // " v", " v/vt", " v//vn" or " v/vt/vn", numbered from 1 across the file.
   void appendCorner(uint32_t index, bool textured, bool withNormals) {
-    obj_ += ' ' + std::to_string(positions_ + index + 1);
+    obj_ += ' ';
+    appendInteger(obj_, positions_ + index + 1);
     if (!textured && !withNormals) return;
     obj_ += '/';
-    if (textured) obj_ += std::to_string(texCoords_ + index + 1);
-    if (withNormals) obj_ += '/' + std::to_string(normals_ + index + 1);
+    if (textured) appendInteger(obj_, texCoords_ + index + 1);
+    if (withNormals) {
+      obj_ += '/';
+      appendInteger(obj_, normals_ + index + 1);
+    }
   }
 
   const ExportMaterial& sceneMaterial(int index) const {

@@ -271,7 +271,7 @@ class X3dBuilder {
         out += " index=\"";
         for (size_t t = 0; t < primitive.indices.size() / 3; ++t) {
           for (uint32_t corner : triangleCorners(primitive, t, mirrored)) {
-            out += std::to_string(corner);
+            appendInteger(out, corner);
             out += ' ';
           }
         }
@@ -282,7 +282,10 @@ class X3dBuilder {
       case PrimitiveMode::kLines:
         out += inner + "<IndexedLineSet coordIndex=\"";
         for (size_t s = 0; s < primitive.indices.size(); s += 2) {
-          out += std::to_string(primitive.indices[s]) + ' ' + std::to_string(primitive.indices[s + 1]) + " -1 ";
+          appendInteger(out, primitive.indices[s]);
+          out += ' ';
+          appendInteger(out, primitive.indices[s + 1]);
+          out += " -1 ";
         }
         out.back() = '"';
         out += ">\n";
