@@ -34,11 +34,16 @@ namespace {
 
 constexpr double kPi = 3.14159265358979323846;
 
-double clamp01(double v) { return v < 0 ? 0 : v > 1 ? 1 : v; }
+// Into [0, 1]; not a number becomes 0.
+double clamp01(double v) { return v > 0 ? (v < 1 ? v : 1) : 0; }
+
+// `v` when it is a finite number above `low`, else `fallback`: JSON has no
+// infinity and no NaN.
+double finiteAbove(double v, double low, double fallback) { return std::isfinite(v) && v > low ? v : fallback; }
 
 tinygltf::Value numberArray(const std::array<float, 3>& values) {
   tinygltf::Value::Array array;
-  for (float v : values) array.emplace_back(static_cast<double>(v));
+  for (float v : values) array.emplace_back(std::isfinite(v) ? static_cast<double>(v) : 0.0);
   return tinygltf::Value(array);
 }
 
@@ -373,25 +378,25 @@ class GltfBuilder {
     const ExportCamera& source = scene_.cameras[index];
     tinygltf::Camera camera;
     camera.name = source.name;
-    const double aspect = source.aspectRatio > 0 && std::isfinite(source.aspectRatio) ? source.aspectRatio : 1.0;
+    const double aspect = finiteAbove(source.aspectRatio, 0, 1.0);
     if (source.perspective) {
       camera.type = "perspective";
       const double angle = source.heightAngle;
       camera.perspective.yfov = angle > 0 && angle < kPi ? angle : kPi / 4;
       camera.perspective.aspectRatio = aspect;
-      camera.perspective.znear = source.nearDistance > 0 ? source.nearDistance : 0.001;
+      camera.perspective.znear = finiteAbove(source.nearDistance, 0, 0.001);
       // tinygltf always writes a far plane: one far off when the scene's is
       // not beyond the near one.
       camera.perspective.zfar =
-          source.farDistance > camera.perspective.znear ? source.farDistance : camera.perspective.znear * 1e6;
+          finiteAbove(source.farDistance, camera.perspective.znear, camera.perspective.znear * 1e6);
     } else {
       camera.type = "orthographic";
-      const double height = source.height > 0 && std::isfinite(source.height) ? source.height : 2.0;
+      const double height = finiteAbove(source.height, 0, 2.0);
       camera.orthographic.ymag = height / 2;
       camera.orthographic.xmag = height * aspect / 2;
-      camera.orthographic.znear = source.nearDistance > 0 ? source.nearDistance : 0.0;
-      camera.orthographic.zfar = source.farDistance > camera.orthographic.znear ? source.farDistance
-                                                                                 : camera.orthographic.znear + 1000;
+      camera.orthographic.znear = finiteAbove(source.nearDistance, 0, 0.0);
+      camera.orthographic.zfar =
+          finiteAbove(source.farDistance, camera.orthographic.znear, camera.orthographic.znear + 1000);
     }
     model_.cameras.push_back(camera);
     return done = static_cast<int>(model_.cameras.size() - 1);
@@ -404,7 +409,7 @@ class GltfBuilder {
     tinygltf::Light light;
     light.name = source.name;
     light.color = {clamp01(source.color[0]), clamp01(source.color[1]), clamp01(source.color[2])};
-    light.intensity = source.on && source.intensity > 0 ? source.intensity : 0.0;
+    light.intensity = source.on ? finiteAbove(source.intensity, 0, 0.0) : 0.0;
     light.type = source.type == LightType::kDirectional ? "directional"
                  : source.type == LightType::kPoint     ? "point"
                                                         : "spot";

@@ -81,7 +81,7 @@ bool decomposeMatrix(const Matrix4& m, MatrixParts& parts) {
 
 MatrixParts rigidParts(const Matrix4& m) {
   MatrixParts parts;
-  parts.translation = {{m[12], m[13], m[14]}};
+  for (int i = 0; i < 3; ++i) parts.translation[i] = std::isfinite(m[12 + i]) ? m[12 + i] : 0;
   Vector3 z = column(m, 2);
   Vector3 y = column(m, 1);
   const double zLength = length(z);

@@ -43,10 +43,15 @@ std::array<double, 3> facetNormal(const std::array<double, 3> (&p)[3]) {
 }
 
 // Appends the facets of one primitive placed by `placement`; returns how
-// many.
-size_t appendFacets(std::string& out, const ExportPrimitive& primitive, const WorldPlacement& placement) {
+// many, or -1 (and nothing appended) when a corner is not finite.
+long appendFacets(std::string& out, const ExportPrimitive& primitive, const WorldPlacement& placement) {
   std::vector<std::array<double, 3>> world(primitive.vertexCount());
-  for (size_t v = 0; v < world.size(); ++v) world[v] = placement.point(&primitive.positions[v * 3]);
+  for (size_t v = 0; v < world.size(); ++v) {
+    world[v] = placement.point(&primitive.positions[v * 3]);
+    for (double c : world[v]) {
+      if (!std::isfinite(c)) return -1;
+    }
+  }
   const size_t triangles = primitive.indices.size() / 3;
   out.reserve(out.size() + triangles * kFacetSize);
   for (size_t t = 0; t < triangles; ++t) {
@@ -58,7 +63,7 @@ size_t appendFacets(std::string& out, const ExportPrimitive& primitive, const Wo
     }
     out.append(2, '\0');  // attribute byte count
   }
-  return triangles;
+  return static_cast<long>(triangles);
 }
 
 }  // namespace
@@ -82,7 +87,12 @@ bool writeStl(const ExportScene& scene, const std::string& path, ExportedFiles& 
         messages.countWarning("Malformed primitive left out");
         continue;
       }
-      facets += appendFacets(out, primitive, placement);
+      const long added = appendFacets(out, primitive, placement);
+      if (added < 0) {
+        messages.countWarning("Primitive with a coordinate that is not finite left out");
+        continue;
+      }
+      facets += static_cast<size_t>(added);
     }
   }
   if (facets > UINT32_MAX) {

@@ -10,6 +10,7 @@ add_executable(lumeric_export_format_tests
   export/formats/GltfWriterTest.cpp
   export/formats/MatrixPartsTest.cpp
   export/formats/ObjWriterTest.cpp
+  export/formats/OddScenesTest.cpp
   export/formats/StlWriterTest.cpp
   export/formats/X3dWriterTest.cpp
 )
