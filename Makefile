@@ -7,15 +7,25 @@ RELEASE_DIR := build/release
 TEST_DIR := build/test
 DEMO_SCENE ?= examples/expressions.vlm
 
-.PHONY: all deps release demo test bench bench-generators gallery fuzz clean
+.PHONY: all deps release release-bench demo test bench bench-generators gallery fuzz clean
 
 all: release
 
 deps:
 	@scripts/install-deps.sh
 
+RELEASE_CONFIGURE := cmake -S . -B $(RELEASE_DIR) -DCMAKE_BUILD_TYPE=Release -DLUMERIC_TESTS=OFF
+
+# The release build leaves the command in build/release/lumeric; the
+# benchmarks (and the Google Benchmark library) are only for `make bench`.
 release: deps
-	cmake -S . -B $(RELEASE_DIR) -DCMAKE_BUILD_TYPE=Release -DLUMERIC_TESTS=OFF -DLUMERIC_BENCH=ON >/dev/null
+	$(RELEASE_CONFIGURE) -DLUMERIC_BENCH=OFF >/dev/null
+	cmake --build $(RELEASE_DIR) -j $(JOBS)
+
+# The release build with the benchmark programs in build/release/bench/.
+release-bench:
+	scripts/install-deps.sh bench
+	$(RELEASE_CONFIGURE) -DLUMERIC_BENCH=ON >/dev/null
 	cmake --build $(RELEASE_DIR) -j $(JOBS)
 
 demo: release
@@ -33,7 +43,7 @@ FUZZ_PARALLEL ?= 1
 fuzz: deps
 	FUZZ_TIME=$(FUZZ_TIME) FUZZ_PARALLEL=$(FUZZ_PARALLEL) scripts/fuzz.sh
 
-bench: release
+bench: release-bench
 	bench/run.sh $(RELEASE_DIR)
 	bench/generators.py $(RELEASE_DIR)/lumeric
 

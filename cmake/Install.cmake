@@ -61,3 +61,11 @@ foreach(pc lumeric lumeric-export)
   configure_file(${CMAKE_CURRENT_LIST_DIR}/${pc}.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${pc}.pc @ONLY)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${pc}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 endforeach()
+
+# Editor support (vim, Emacs, VS Code), which users copy or point their
+# editor at; editors/README.md says how.
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/editors/
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/lumeric/editors
+  PATTERN node_modules EXCLUDE
+  PATTERN package-lock.json EXCLUDE
+  PATTERN .gitignore EXCLUDE)

@@ -6,7 +6,7 @@
 # target starts from fuzz/expression-seeds/); what a target
 # finds goes to build/fuzz/artifacts/ (keep every crash or hang as a
 # regression file in tests/fuzz/regressions/).
-#   scripts/fuzz.sh [TARGET...]     TARGET: ParseFuzzer CheckFuzzer ExpressionFuzzer
+#   scripts/fuzz.sh [TARGET...]     TARGET: ParseFuzzer CheckFuzzer ExpressionFuzzer ExportFuzzer
 # FUZZ_RUNS=N runs N inputs per target instead of a time.
 # FUZZ_PARALLEL=N runs up to N targets at once (default 1).
 # Each target logs to build/fuzz/run/TARGET/fuzz-0.log; the last lines give
@@ -17,7 +17,7 @@ build="$root/build/fuzz"
 time="${FUZZ_TIME:-180}"
 parallel="${FUZZ_PARALLEL:-1}"
 targets=("$@")
-[ ${#targets[@]} -eq 0 ] && targets=(ParseFuzzer CheckFuzzer ExpressionFuzzer)
+[ ${#targets[@]} -eq 0 ] && targets=(ParseFuzzer CheckFuzzer ExpressionFuzzer ExportFuzzer)
 
 "$root/scripts/install-deps.sh" fuzz
 CC=clang CXX=clang++ cmake -S "$root" -B "$build" -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g" \

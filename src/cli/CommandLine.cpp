@@ -15,7 +15,8 @@ const char kUsageText[] =
     "Ball, Connect, Wall) into plain VRML 1.0 that any VRML 1.0 reader loads.\n"
     "\n"
     "By default the result goes to output.wrl in the current directory, or to the\n"
-    "file the scene's OUTPUT_TO statement names.\n"
+    "file the scene's OUTPUT_TO statement names.  INPUT \"-\" reads the scene from\n"
+    "standard input.  No result replaces a file the run reads.\n"
     "\n"
     "Options:\n"
     "  -o FILE        write the result to FILE instead (\"-\" for standard output);\n"
@@ -24,17 +25,28 @@ const char kUsageText[] =
     "                 result is written\n"
     "  --type TYPE    with --check: the file type; \"vlm\" (any case) enables the\n"
     "                 extended language, anything else reads plain VRML 1.0.\n"
-    "                 Default: taken from INPUT's extension (.vlm is extended)\n"
+    "                 Default: taken from INPUT's extension, or --stdin-name's\n"
+    "                 (.vlm is extended)\n"
     "  -W unknown     warn about nodes of unknown class that declare their fields\n"
     "  -W duplicate   warn about DEF names that are defined twice\n"
+    "  -W all         enable every warning\n"
+    "  -W error       count warnings as errors for the exit status; the joined\n"
+    "                 forms -Wunknown, -Wduplicate, -Wall and -Werror work too\n"
     "  -d DIR         when INPUT cannot be opened, try DIR followed by INPUT\n"
+    "  -I DIR         look in DIR for an INCLUDE file found neither as written\n"
+    "                 nor beside the including file; may be repeated, searched\n"
+    "                 in order\n"
+    "  --stdin-name NAME\n"
+    "                 with INPUT \"-\": the name messages and --deps give the\n"
+    "                 scene, beside which INCLUDE looks (default: <stdin>)\n"
     "  -D NAME:FIELD=VALUE\n"
     "                 after reading the scene, give FIELD of the node named NAME\n"
     "                 (the last one DEF gave that name) the value text VALUE, as\n"
     "                 if the file had it there; an expression is allowed.  May be\n"
     "                 repeated; applied in order before the scene is evaluated\n"
     "  --deps FILE    also write FILE, a make rule naming the output file, the\n"
-    "                 input and every file INCLUDE read (not with --check or -o -)\n"
+    "                 input and every file INCLUDE read, as opened (not with\n"
+    "                 --check or -o -)\n"
     "  --message-format FORMAT\n"
     "                 how messages are printed: plain (the default), gnu or json\n"
     "  --max-evaluations N\n"
@@ -67,14 +79,17 @@ const char kUsageText[] =
     "           {\"file\":\"FILE\",\"line\":N,\"severity\":\"error\",\"message\":\"TEXT\"}\n"
     "         severity error, warning or note; file and line null when unknown\n"
     "\n"
-    "Exit status: 0 when no error was reported, 1 when at least one was, 2 for a\n"
-    "usage error (a -D that names no node or field, a --deps FILE that cannot be\n"
-    "written).\n"
+    "Exit status: 0 when no error was reported, 1 when at least one was (or, with\n"
+    "-W error, a warning), 2 for a usage error (a -D that names no node or field,\n"
+    "a --deps FILE that cannot be written).  A result (-o, --deps, OUTPUT_TO or\n"
+    "output.wrl) that would replace a file the run reads is refused with an\n"
+    "error and the file is left as it was.\n"
     "\n"
     "Examples:\n"
     "  lumeric -o scene.wrl examples/expressions.vlm\n"
     "  lumeric --check --message-format gnu examples/expressions.vlm\n"
     "  lumeric -D Params:size=2.5 --deps scene.d -o scene.wrl scene.vlm\n"
+    "  lumeric --check --stdin-name mk/scene.vlm -I parts - < mk/scene.vlm\n"
     "The examples are installed in share/doc/lumeric/examples below the prefix.\n";
 
 std::string fileTypeOf(const std::string& input) {
@@ -112,7 +127,45 @@ bool takeCount(int argc, char** argv, int& i, long& count, std::string& error) {
   return true;
 }
 
+// Takes one -W argument: a warning to enable, "all" or "error".
+bool takeWarning(const std::string& which, CommandLine& line, std::string& error) {
+  if (which == "unknown") {
+    line.warnings |= kWarnUnknownNodes;
+  } else if (which == "duplicate") {
+    line.warnings |= kWarnDuplicateNames;
+  } else if (which == "all") {
+    line.warnings |= kWarnUnknownNodes | kWarnDuplicateNames;
+  } else if (which == "error") {
+    line.warningsAreErrors = true;
+  } else {
+    error = "unknown warning \"" + which + "\" (use unknown, duplicate, all or error)";
+    return false;
+  }
+  return true;
+}
+
+// An option that takes a value either as the next argument or joined to
+// it, as compilers take -W and -I: "-Wall", "-Iparts".
+bool takeJoinable(int argc, char** argv, int& i, const char* option, std::string& value, std::string& error) {
+  const std::string arg = argv[i];
+  if (arg.size() > 2) {
+    value = arg.substr(2);
+    return true;
+  }
+  if (!takeValue(argc, argv, i, value, error)) return false;
+  if (value.empty()) {
+    error = std::string("option ") + option + " needs a value";
+    return false;
+  }
+  return true;
+}
+
 }  // namespace
+
+std::string CommandLine::inputName() const {
+  if (!readsStandardInput()) return input;
+  return stdinName.empty() ? "<stdin>" : stdinName;
+}
 
 bool parseFieldOverride(const std::string& text, FieldOverride& change) {
   size_t colon = text.find(':');
@@ -176,15 +229,17 @@ bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& err
         if (!takeCount(argc, argv, i, line.limits.maxNodes, error)) return false;
       } else if (arg == "--confine") {
         line.limits.confine = true;
-      } else if (arg == "-W") {
+      } else if (arg.compare(0, 2, "-W") == 0) {
         std::string which;
-        if (!takeValue(argc, argv, i, which, error)) return false;
-        if (which == "unknown") {
-          line.warnings |= 2;
-        } else if (which == "duplicate") {
-          line.warnings |= 4;
-        } else {
-          error = "unknown warning \"" + which + "\" (use unknown or duplicate)";
+        if (!takeJoinable(argc, argv, i, "-W", which, error) || !takeWarning(which, line, error)) return false;
+      } else if (arg.compare(0, 2, "-I") == 0) {
+        std::string directory;
+        if (!takeJoinable(argc, argv, i, "-I", directory, error)) return false;
+        line.includeDirectories.push_back(directory);
+      } else if (arg == "--stdin-name") {
+        if (!takeValue(argc, argv, i, line.stdinName, error)) return false;
+        if (line.stdinName.empty()) {
+          error = "--stdin-name NAME must not be empty";
           return false;
         }
       } else {
@@ -223,7 +278,11 @@ bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& err
     error = "--deps needs an output file; it cannot be combined with -o -";
     return false;
   }
-  if (!typeSet) line.fileType = fileTypeOf(line.input);
+  if (!line.stdinName.empty() && !line.readsStandardInput()) {
+    error = "--stdin-name is used only with INPUT -";
+    return false;
+  }
+  if (!typeSet) line.fileType = fileTypeOf(line.inputName());
   return true;
 }
 

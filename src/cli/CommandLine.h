@@ -15,16 +15,24 @@ struct CommandLine {
   enum Action { kTranslate, kCheck, kHelp, kVersion };
 
   Action action = kTranslate;
-  std::string input;
+  std::string input;      // "-": standard input
+  std::string stdinName;  // --stdin-name; empty: none given
   std::string output;     // -o; empty: the library's own choice
   bool outputSet = false;
   std::string fileType;   // --type; empty: from the input's extension
   std::string directory;  // -d
-  unsigned long warnings = 0;
+  unsigned long warnings = 0;     // -W unknown, duplicate, all: gWarn's bits
+  bool warningsAreErrors = false;  // -W error
+  std::vector<std::string> includeDirectories;  // -I, in order
   MessageFormat messageFormat = MessageFormat::kPlain;  // --message-format
   std::vector<FieldOverride> overrides;  // -D, in order
   std::string depsFile;                  // --deps; empty: none
   RunLimits limits;  // --max-evaluations, --max-nodes, --confine
+
+  bool readsStandardInput() const { return input == "-"; }
+  // The name the input goes by in messages, --deps and for INCLUDE: the
+  // path given, or for standard input --stdin-name or "<stdin>".
+  std::string inputName() const;
 };
 
 // Parses argv.  On a usage error returns false with `error` set.

@@ -22,7 +22,8 @@ std::string escapeForMake(const std::string& name) {
   return escaped;
 }
 
-std::string dependencyRule(const std::string& target, const std::vector<std::string>& prerequisites) {
+std::string dependencyRule(const std::string& target, const std::vector<std::string>& prerequisites,
+                           size_t sources) {
   std::vector<std::string> files;
   for (const std::string& file : prerequisites) {
     if (std::find(files.begin(), files.end(), file) == files.end()) files.push_back(file);
@@ -30,7 +31,7 @@ std::string dependencyRule(const std::string& target, const std::vector<std::str
   std::string rule = escapeForMake(target) + ":";
   for (const std::string& file : files) rule += " " + escapeForMake(file);
   rule += "\n";
-  for (size_t i = 1; i < files.size(); ++i) rule += "\n" + escapeForMake(files[i]) + ":\n";
+  for (size_t i = sources; i < files.size(); ++i) rule += "\n" + escapeForMake(files[i]) + ":\n";
   return rule;
 }
 

@@ -14,9 +14,10 @@ namespace lumeric {
 std::string escapeForMake(const std::string& name);
 
 // "TARGET: PREREQUISITE ...\n", each file once in the order given, then an
-// empty rule "FILE:\n" for each prerequisite after the first, so that make
-// does not stop when an included file is removed.
-std::string dependencyRule(const std::string& target, const std::vector<std::string>& prerequisites);
+// empty rule "FILE:\n" for each prerequisite after the first `sources`
+// (the input), so that make does not stop when an included file is removed.
+std::string dependencyRule(const std::string& target, const std::vector<std::string>& prerequisites,
+                           size_t sources = 1);
 
 }  // namespace lumeric
 

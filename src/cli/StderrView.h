@@ -16,11 +16,14 @@ class StderrView : public CReportErrorView {
       : format_(format), stream_(stream) {}
   int post(const char* text, int flag) override;
   int errorCount() const { return errors_; }
+  // Warnings, not counting PRINT output.
+  int warningCount() const { return warnings_; }
 
  private:
   MessageFormat format_;
   FILE* stream_;
   int errors_ = 0;
+  int warnings_ = 0;
 };
 
 }  // namespace lumeric

@@ -8,6 +8,8 @@
 #include "cli/CommandLine.h"
 #include "cli/Dependencies.h"
 #include "cli/StderrView.h"
+#include "core/FileAccess.h"
+#include "core/OutputFile.h"
 #include "core/RunState.h"
 #include "driver/Translation.h"
 #include "lumeric/lumeric.h"
@@ -23,13 +25,38 @@ int usageError(const std::string& error) {
   return 2;
 }
 
-// The input as the run opened it: as given, else under the -d directory.
-std::string openedInput(const lumeric::CommandLine& line) {
+// The input as the run opened it: as given, else under the -d directory;
+// standard input by its --stdin-name, and by nothing without one.
+std::vector<std::string> openedInput(const lumeric::CommandLine& line) {
+  if (line.readsStandardInput()) {
+    return line.stdinName.empty() ? std::vector<std::string>() : std::vector<std::string>{line.stdinName};
+  }
   if (FILE* file = std::fopen(line.input.c_str(), "r")) {
     std::fclose(file);
-    return line.input;
+    return {line.input};
   }
-  return line.directory + line.input;
+  return {line.directory + line.input};
+}
+
+// Writes the make rule of the run into the dependency file and puts it in
+// place, unless the file is one the run read.  False when it cannot be
+// written.
+bool finishDependencies(lumeric::OutputFile& deps, const lumeric::CommandLine& line, const std::string& outputName,
+                        const lumeric::RunAdditions& additions, lumeric::StderrView& view) {
+  using namespace lumeric;
+  if (isAmongFiles(line.depsFile.c_str(), additions.filesRead)) {
+    deps.abandon();
+    const std::string message = "Refusing to overwrite " + line.depsFile + ", which this run reads";
+    view.post(message.c_str(), 1);
+    return true;
+  }
+  std::vector<std::string> files = openedInput(line);
+  const size_t sources = files.size();
+  files.insert(files.end(), additions.includedFiles.begin(), additions.includedFiles.end());
+  const std::string rule = dependencyRule(outputName, files, sources);
+  bool written = std::fputs(rule.c_str(), deps.stream()) >= 0;
+  int errorNumber = 0;
+  return deps.commit(written ? 0 : EIO, errorNumber) == OutputFile::kReplaced;
 }
 
 }  // namespace
@@ -51,19 +78,24 @@ int main(int argc, char** argv) {
   gWarn = line.warnings;
   theRun.limits = line.limits;
   StderrView view(line.messageFormat);
-  std::vector<char> input(line.input.begin(), line.input.end());
+  const std::string inputName = line.inputName();
+  std::vector<char> input(inputName.begin(), inputName.end());
   input.push_back('\0');
   std::vector<char> directory(line.directory.begin(), line.directory.end());
   directory.push_back('\0');
 
   // The dependency file is opened first, so that one that cannot be
-  // written stops the command before anything is translated.
-  FILE* deps = nullptr;
-  if (!line.depsFile.empty() && (deps = std::fopen(line.depsFile.c_str(), "w")) == nullptr) {
-    return usageError("cannot write " + line.depsFile + ": " + std::strerror(errno));
+  // written stops the command before anything is translated.  Like the
+  // result, it is written whole beside its target and put in place last.
+  OutputFile deps;
+  int errorNumber = 0;
+  if (!line.depsFile.empty() && deps.open(line.depsFile.c_str(), errorNumber) == nullptr) {
+    return usageError("cannot write " + line.depsFile + ": " + std::strerror(errorNumber));
   }
   RunAdditions additions;
   additions.overrides = line.overrides;
+  additions.includeDirectories = line.includeDirectories;
+  if (line.readsStandardInput()) additions.inputStream = stdin;
   char outputName[kOutputNameSize] = "";
   if (line.action == CommandLine::kCheck) {
     checkScene(input.data(), &view, directory.data(), line.fileType.c_str(), &additions);
@@ -80,18 +112,13 @@ int main(int argc, char** argv) {
                    &additions);
   }
   if (!additions.overrideError.empty()) {
-    if (deps != nullptr) {
-      std::fclose(deps);
-      std::remove(line.depsFile.c_str());
-    }
+    deps.abandon();
     return usageError(additions.overrideError);
   }
-  if (deps != nullptr) {
-    std::vector<std::string> files{openedInput(line)};
-    files.insert(files.end(), additions.includedFiles.begin(), additions.includedFiles.end());
-    std::string rule = dependencyRule(line.outputSet ? line.output : outputName, files);
-    bool written = std::fputs(rule.c_str(), deps) >= 0;
-    if (std::fclose(deps) != 0 || !written) return usageError("cannot write " + line.depsFile);
+  if (deps.isOpen() &&
+      !finishDependencies(deps, line, line.outputSet ? line.output : outputName, additions, view)) {
+    return usageError("cannot write " + line.depsFile);
   }
-  return view.errorCount() > 0 ? 1 : 0;
+  const int problems = view.errorCount() + (line.warningsAreErrors ? view.warningCount() : 0);
+  return problems > 0 ? 1 : 0;
 }

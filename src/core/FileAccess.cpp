@@ -73,7 +73,33 @@ const char* confinementRefusal(const char* path, bool forWriting) {
   return nullptr;
 }
 
+void noteFileRead(FILE* stream) {
+  struct stat status;
+  if (stream != nullptr && fstat(fileno(stream), &status) == 0) {
+    theRun.filesRead.push_back(FileIdentity{static_cast<unsigned long long>(status.st_dev),
+                                            static_cast<unsigned long long>(status.st_ino)});
+  }
+}
+
+bool isAmongFiles(const char* path, const std::vector<FileIdentity>& files) {
+  struct stat target;
+  if (stat(path, &target) != 0) return false;
+  for (const FileIdentity& file : files) {
+    if (file.device == static_cast<unsigned long long>(target.st_dev) &&
+        file.inode == static_cast<unsigned long long>(target.st_ino)) {
+      return true;
+    }
+  }
+  return false;
+}
+
+std::string directoryPrefixOf(const std::string& path) {
+  const size_t slash = path.find_last_of('/');
+  return slash == std::string::npos ? std::string() : path.substr(0, slash + 1);
+}
+
 bool isFileBeingRead(const char* path) {
+  if (isAmongFiles(path, theRun.filesRead)) return true;
   struct stat target;
   if (stat(path, &target) != 0) return false;
   // The open streams identify the files: a name on the stack may have been

@@ -1,11 +1,13 @@
 // How the translator reaches files: scene files are opened for reading only
-// when they are not directories, and a confined run (theRun.confinedTo set)
-// reads and writes only regular files inside one directory tree.
+// when they are not directories, a confined run (theRun.confinedTo set)
+// reads and writes only regular files inside one directory tree, and every
+// file a run reads is remembered so that no output of the run replaces it.
 #ifndef LUMERIC_CORE_FILEACCESS_H
 #define LUMERIC_CORE_FILEACCESS_H
 
 #include <cstdio>
 #include <string>
+#include <vector>
 
 namespace lumeric {
 
@@ -23,9 +25,26 @@ std::string resolvedDirectoryOf(const char* path);
 // file that does not exist yet; its directory must then be inside.
 const char* confinementRefusal(const char* path, bool forWriting);
 
-// Whether `path` names the same file as one of the open streams on the
-// context's file stack (the files being read).
+// A file as the system knows it, whatever name or link reached it.
+struct FileIdentity {
+  unsigned long long device = 0;
+  unsigned long long inode = 0;
+};
+
+// Records the file behind `stream` in theRun.filesRead.
+void noteFileRead(FILE* stream);
+
+// Whether `path` (its links followed) names one of `files`; false when it
+// names nothing.
+bool isAmongFiles(const char* path, const std::vector<FileIdentity>& files);
+
+// Whether `path` names a file the run has read or is reading: one in
+// theRun.filesRead or one of the open streams on the context's file stack.
 bool isFileBeingRead(const char* path);
+
+// The directory part of `path` with its final '/' ("mk/" for "mk/a.vlm"),
+// empty when `path` has none.
+std::string directoryPrefixOf(const std::string& path);
 
 }  // namespace lumeric
 

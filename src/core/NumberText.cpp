@@ -101,7 +101,14 @@ int formatModerateNumber(char* buffer, double value) {
 
 int formatNumber(char* buffer, double value) {
   if (value == 0) {
-    return std::snprintf(buffer, kNumberTextSize, std::signbit(value) ? "-0" : "0");
+    const char* text = std::signbit(value) ? "-0" : "0";
+    std::memcpy(buffer, text, std::strlen(text) + 1);
+    return static_cast<int>(std::strlen(text));
+  }
+  // Whole numbers of up to six digits ("%g" shows them as integers): loop
+  // positions, counts, most defaults.
+  if (value > -1e6 && value < 1e6 && value == static_cast<double>(static_cast<int32_t>(value))) {
+    return formatInteger(buffer, static_cast<int32_t>(value));
   }
   if (int length = formatModerateNumber(buffer, value)) return length;
   if (std::isnan(value) || std::isinf(value)) {

@@ -26,6 +26,9 @@ class OutputFile {
   FILE* stream() const { return stream_; }
   // The name the output was opened with.
   const std::string& target() const { return target_; }
+  // Whether commit() renames a temporary file over the target (false for a
+  // target written where it is).
+  bool replacesTarget() const { return !temporary_.empty(); }
 
   enum Outcome { kReplaced, kWriteFailed, kCloseFailed };
   // Flushes and closes the temporary file and renames it over the target.

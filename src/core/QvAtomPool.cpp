@@ -40,13 +40,10 @@ QvAtomPool::~QvAtomPool() {
 }
 
 uint32_t QvAtomPool::hash(const char* text, size_t length) {
-  uint32_t h = 0;
-  int shift = 0;
+  uint32_t h = 2166136261u;
   for (size_t i = 0; i < length; ++i) {
-    int32_t b = static_cast<signed char>(text[i]);
-    h ^= static_cast<uint32_t>(b) << shift;
-    shift += 5;
-    if (shift > 24) shift -= 24;
+    h ^= static_cast<unsigned char>(text[i]);
+    h *= 16777619u;
   }
   return h;
 }

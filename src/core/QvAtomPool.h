@@ -22,8 +22,9 @@ class QvAtomPool {
   // The stored copy of `text` (length bytes, no terminator needed).
   const char* intern(const char* text, size_t length);
 
-  // The hash of the atom table: bytes taken as signed 8-bit values are
-  // xor-ed in at a shift that grows by 5 and wraps past 24.
+  // The hash of the atom table (32-bit FNV-1a).  Generated names differ in
+  // a few digits only ("t0" to "t999999"), so every byte must reach every
+  // bit of the hash for them to spread over the buckets.
   static uint32_t hash(const char* text, size_t length);
 
   QvAtomPool(const QvAtomPool&) = delete;

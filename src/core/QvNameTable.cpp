@@ -2,26 +2,20 @@
 
 namespace lumeric {
 
-QvNameTable::~QvNameTable() {
-  lists_.forEachValue([](NodeList* list) { delete list; });
+void QvNameTable::add(QvAtom name, QvNode* node, int32_t* slot) {
+  *slot = static_cast<int32_t>(entries_.size());
+  entries_.push_back(Entry{node, slot, name});
 }
 
-void QvNameTable::add(QvAtom name, QvNode* node) {
-  NodeList* list = lists_.find(name);
-  if (list == nullptr) {
-    list = new NodeList();
-    lists_.enter(name, list);
-  }
-  list->append(node);
-}
-
-bool QvNameTable::remove(QvAtom name, QvNode* node) {
-  NodeList* list = lists_.find(name);
-  // Nodes die in about the reverse order of their naming (a group releases
-  // its children last first), so the search starts at the end of the list.
-  int index = list == nullptr ? -1 : list->findLast(node);
-  if (index < 0) return false;
-  list->remove(index);
+bool QvNameTable::remove(QvAtom name, QvNode* node, int32_t* slot) {
+  if (*slot < 0 || static_cast<size_t>(*slot) >= entries_.size()) return false;
+  Entry& entry = entries_[static_cast<size_t>(*slot)];
+  if (entry.node != node || entry.slot != slot || !(entry.name == name)) return false;
+  Entry& last = entries_.back();
+  *last.slot = *slot;
+  entry = last;
+  entries_.pop_back();
+  *slot = -1;
   return true;
 }
 

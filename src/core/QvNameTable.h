@@ -1,11 +1,19 @@
-// The named nodes of a run: for each name, the nodes that carry it, in the
-// order they were named.  A node enters itself when it is named and leaves
-// when it is renamed or dies; the table holds no reference on them.
+// The named nodes of a run: every node that carries a name, with that
+// name.  A node enters itself when it is named and leaves when it is renamed
+// or dies; the table holds no reference on it.  Nothing looks nodes up by
+// name here (the DEF table does that); the table lets a node that leaves
+// check that it is registered as it believes.
+//
+// Copies die in any order (a DEF table releases them first named first, a
+// group last child first), and a LOOP may name a million of them, so every
+// operation takes constant time and no hashing: each node keeps the slot of
+// its entry, and a removal moves the last entry into the freed slot.
 #ifndef LUMERIC_CORE_QVNAMETABLE_H
 #define LUMERIC_CORE_QVNAMETABLE_H
 
-#include "core/AtomMap.h"
-#include "core/PointerList.h"
+#include <cstdint>
+#include <vector>
+
 #include "core/QvAtom.h"
 
 namespace lumeric {
@@ -14,20 +22,20 @@ class QvNode;
 
 class QvNameTable {
  public:
-  QvNameTable() = default;
-  ~QvNameTable();
-  QvNameTable(const QvNameTable&) = delete;
-  QvNameTable& operator=(const QvNameTable&) = delete;
-
-  // Appends `node` to the nodes named `name`.
-  void add(QvAtom name, QvNode* node);
-  // Removes the last entry of `node` under `name`; false when there is
-  // none.
-  bool remove(QvAtom name, QvNode* node);
+  // Adds `node` under `name`; `*slot` receives the place of its entry and
+  // is kept up to date while the entry lives.
+  void add(QvAtom name, QvNode* node, int32_t* slot);
+  // Removes the entry of `node` under `name` at `*slot` and sets `*slot` to
+  // -1; false (and nothing changes) when that is not where `node` is.
+  bool remove(QvAtom name, QvNode* node, int32_t* slot);
 
  private:
-  using NodeList = PointerList<QvNode>;
-  AtomMap<NodeList> lists_;
+  struct Entry {
+    QvNode* node;
+    int32_t* slot;
+    QvAtom name;
+  };
+  std::vector<Entry> entries_;
 };
 
 }  // namespace lumeric

@@ -41,19 +41,22 @@ void RunState::reset() {
   extensionsEnabled = true;
   defNames = nullptr;
   includedFiles = nullptr;
+  filesRead.clear();
+  inputLocation.clear();
+  includeDirectories = nullptr;
   readingDepth = 0;
   parseDepth = 0;
   theContext.fileDepth = -1;
 }
 
-void addName(QvNode* node, const char* text) {
+void addName(QvNode* node, QvAtom name, int32_t* slot) {
   if (theRun.nameRegistry == nullptr) theRun.nameRegistry = new QvNameTable();
-  theRun.nameRegistry->add(QvAtom(text), node);
+  theRun.nameRegistry->add(name, node, slot);
 }
 
-void removeName(QvNode* node, const char* text) {
-  if (theRun.nameRegistry != nullptr && theRun.nameRegistry->remove(QvAtom(text), node)) return;
-  QvContext::programError("QvNode::removeName", "Program Error: Name \"%s\" (node %p) is not in dictionary", text,
+void removeName(QvNode* node, QvAtom name, int32_t* slot) {
+  if (theRun.nameRegistry != nullptr && theRun.nameRegistry->remove(name, node, slot)) return;
+  QvContext::programError("QvNode::removeName", "Program Error: Name \"%s\" (node %p) is not in dictionary", name.text(),
                           static_cast<void*>(node));
 }
 

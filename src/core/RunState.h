@@ -7,11 +7,14 @@
 #ifndef LUMERIC_CORE_RUNSTATE_H
 #define LUMERIC_CORE_RUNSTATE_H
 
+#include <cstdint>
 #include <cstdio>
 #include <string>
 #include <vector>
 
+#include "core/FileAccess.h"
 #include "core/OutputFile.h"
+#include "core/QvAtom.h"
 
 namespace lumeric {
 
@@ -77,8 +80,17 @@ class RunState {
   QvDefTable* defNames = nullptr;
   // Every named node, by name.
   QvNameTable* nameRegistry = nullptr;
-  // When set, receives the name of every file INCLUDE reads.
+  // When set, receives the name of every file INCLUDE reads, as opened.
   std::vector<std::string>* includedFiles = nullptr;
+  // Every file the run has opened for reading (the input, every INCLUDE);
+  // no output of the run may replace one of them.
+  std::vector<FileIdentity> filesRead;
+  // Where the input is, for INCLUDE to look beside it: the path it was
+  // opened at, or the name the caller gave a stream it reads.
+  std::string inputLocation;
+  // When set, the directories INCLUDE looks in, in order, for a relative
+  // name found neither as written nor beside the including file.
+  const std::vector<std::string>* includeDirectories = nullptr;
   // With limits.confine: the resolved directory of the input, inside which
   // files may be read and written.
   std::string confinedTo;
@@ -104,12 +116,12 @@ class RunState {
 
 extern RunState theRun;
 
-// Appends `node` to the registry list of `text`, creating registry and list
-// on first use.
-void addName(QvNode* node, const char* text);
-// Removes `node` from the list of `text`; a program error when it is not
+// Adds `node` to the registry list of `name`, creating registry and list on
+// first use; `slot` is the node's own record of where its entry is.
+void addName(QvNode* node, QvAtom name, int32_t* slot);
+// Removes `node` from the list of `name`; a program error when it is not
 // there.
-void removeName(QvNode* node, const char* text);
+void removeName(QvNode* node, QvAtom name, int32_t* slot);
 
 // --- What outlives runs ---------------------------------------------------
 

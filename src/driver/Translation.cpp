@@ -69,6 +69,13 @@ void closeOutput(const OutputOverride* output, int writeError) {
   int errorNumber = 0;
   if (theRun.pendingOutput.isOpen()) {
     const std::string target = theRun.pendingOutput.target();
+    // Whatever chose the output (-o, OUTPUT_TO, the default name), it never
+    // replaces a file the run read; by now every INCLUDE has been read.
+    if (theRun.pendingOutput.replacesTarget() && isFileBeingRead(target.c_str())) {
+      theRun.pendingOutput.abandon();
+      theContext.report("Refusing to overwrite %s, which this run reads", target.c_str());
+      return;
+    }
     switch (theRun.pendingOutput.commit(writeError, errorNumber)) {
       case OutputFile::kReplaced:
         return;
@@ -141,8 +148,9 @@ int runTranslation(const char* inputPath, CReportErrorView* view, const char* di
   theContext.setView(view);
   if (inputPath == nullptr) inputPath = "";
   int errorNumber = 0;
-  std::string opened;
-  FILE* inputFile = openInput(inputPath, directory, errorNumber, opened);
+  std::string opened = inputPath;
+  FILE* const given = additions != nullptr ? additions->inputStream : nullptr;
+  FILE* inputFile = given != nullptr ? given : openInput(inputPath, directory, errorNumber, opened);
   if (inputFile == nullptr) {
     reportOpenFailure(inputPath, directory, errorNumber);
     closeOutput(output, 0);
@@ -155,7 +163,12 @@ int runTranslation(const char* inputPath, CReportErrorView* view, const char* di
     if (theRun.confinedTo.empty()) theRun.confinedTo = "/nonexistent/";
   }
   if (theRun.nameRegistry == nullptr) theRun.nameRegistry = new QvNameTable();
-  if (additions != nullptr) theRun.includedFiles = &additions->includedFiles;
+  noteFileRead(inputFile);
+  theRun.inputLocation = opened;
+  if (additions != nullptr) {
+    theRun.includedFiles = &additions->includedFiles;
+    theRun.includeDirectories = &additions->includeDirectories;
+  }
   int result = 0;
   {
     QvSceneInput input;
@@ -170,8 +183,9 @@ int runTranslation(const char* inputPath, CReportErrorView* view, const char* di
     }
     theRun.defNames = nullptr;
   }
-  std::fclose(inputFile);
+  if (inputFile != given) std::fclose(inputFile);
   closeOutput(output, theRun.outputWriteError);
+  if (additions != nullptr) additions->filesRead = theRun.filesRead;
   theRun.reset();
   return result;
 }

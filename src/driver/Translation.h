@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "core/FileAccess.h"
 #include "driver/FieldOverrides.h"
 
 #include "lumeric/lumeric.h"
@@ -32,8 +33,18 @@ struct RunAdditions {
   // evaluated or written.
   std::vector<FieldOverride> overrides;
   std::string overrideError;
-  // Receives the name of every file INCLUDE read, in the order read.
+  // Receives the name of every file INCLUDE read, in the order read, as
+  // opened.
   std::vector<std::string> includedFiles;
+  // Where INCLUDE looks, in order, for a relative name found neither as
+  // written nor beside the including file (the command line's -I).
+  std::vector<std::string> includeDirectories;
+  // When set, the scene is read from this stream (not closed), and the
+  // input path only names it: in messages, and as the place beside which
+  // INCLUDE looks.
+  FILE* inputStream = nullptr;
+  // Receives every file the run read (the input, every INCLUDE).
+  std::vector<FileIdentity> filesRead;
 };
 
 int translateScene(const char* inputPath, CReportErrorView* view, const char* directory, char* outputNameOut,

@@ -47,7 +47,8 @@ struct ExportMaterial {
   // Index into ExportScene::textures, or -1.
   int texture = -1;
   // The texture transformation (Texture2Transform) as a 3x3 column-major
-  // matrix applied to (s, t, 1).
+  // matrix applied to (s, t, 1).  The traversal leaves it the identity: it
+  // applies Texture2Transform to the primitives' texCoords itself.
   std::array<float, 9> textureTransform{{1, 0, 0, 0, 1, 0, 0, 0, 1}};
   // Faces not known to be solid are seen from both sides.
   bool doubleSided = true;
@@ -67,7 +68,11 @@ struct ExportPrimitive {
   std::vector<float> positions;  // x, y, z per vertex
   std::vector<float> normals;    // x, y, z per vertex; empty for lines and points
   std::vector<float> texCoords;  // s, t per vertex, or empty
-  std::vector<float> colors;     // r, g, b, a per vertex, or empty: the material's colour
+  // r, g, b, a per vertex, or empty: the material's colour.  Vertex colours
+  // replace the diffuse colour and transparency; the traversal gives such a
+  // primitive a material whose diffuse colour is white and transparency 0,
+  // so that a writer may also multiply them.
+  std::vector<float> colors;
   // Three per triangle, two per segment, one per point.
   std::vector<uint32_t> indices;
 

@@ -5,6 +5,9 @@
 #ifndef LUMERIC_EXPORT_SCENEEXPORT_H
 #define LUMERIC_EXPORT_SCENEEXPORT_H
 
+#include <cstdio>
+
+#include "core/RunState.h"
 #include "driver/Translation.h"
 #include "export/ExportScene.h"
 #include "lumeric/lumeric.h"
@@ -14,6 +17,9 @@ namespace lumeric {
 struct ExportOptions {
   // Segments around a curved primitive; 0: as the scene's Complexity says.
   int tessellation = 0;
+  // Nodes the traversal may visit (each USE visits its subtree again);
+  // beyond it the rest of the scene is left out with a warning.
+  long maxVisits = 10000000;
 };
 
 // Translates `inputPath` (messages to `view`, `additions` applied as the
@@ -21,6 +27,13 @@ struct ExportOptions {
 // shows.  Returns what translateScene returns.
 int buildExportScene(const char* inputPath, CReportErrorView* view, const char* directory, RunAdditions* additions,
                      const ExportOptions& options, ExportScene& scene);
+
+// Fills `scene` with what the plain VRML 1.0 text `text` shows, read as if
+// it were the file `path` (inlined files and textures are found beside
+// it) with the run's limits `limits`.  The reading posts nothing; the
+// exporter's own messages go to `view`.
+void buildPlainExportScene(FILE* text, const char* path, const RunLimits& limits, CReportErrorView* view,
+                           const ExportOptions& options, ExportScene& scene);
 
 }  // namespace lumeric
 

@@ -13,7 +13,12 @@ size_t segmentElements(int segment) { return size_t{1} << segment; }
 
 ExpressionStore::~ExpressionStore() {
   resize(0);
-  std::free(segments_);
+  freeTable();
+}
+
+void ExpressionStore::freeTable() {
+  if (segments_ != &firstSegment_) std::free(segments_);
+  segments_ = nullptr;
 }
 
 void ExpressionStore::resize(int count) {
@@ -37,9 +42,17 @@ void ExpressionStore::resize(int count) {
 void ExpressionStore::addSegmentsFor(int count) {
   int needed = segmentOf(static_cast<uint32_t>(count)) + 1;  // the segment of element count - 1
   if (needed <= segmentCount_) return;
-  void* table = std::realloc(segments_, sizeof(FieldExpression*) * static_cast<size_t>(needed));
-  if (table == nullptr) throw std::bad_alloc();
-  segments_ = static_cast<FieldExpression**>(table);
+  if (needed == 1) {
+    // Most lists hold one element: their table is the one pointer kept
+    // inside the store.
+    segments_ = &firstSegment_;
+  } else {
+    void* table = std::malloc(sizeof(FieldExpression*) * static_cast<size_t>(needed));
+    if (table == nullptr) throw std::bad_alloc();
+    for (int k = 0; k < segmentCount_; ++k) static_cast<FieldExpression**>(table)[k] = segments_[k];
+    freeTable();
+    segments_ = static_cast<FieldExpression**>(table);
+  }
   for (int k = segmentCount_; k < needed; ++k) segments_[k] = nullptr;
   for (int k = segmentCount_; k < needed; ++k) {
     size_t bytes = sizeof(FieldExpression) * segmentElements(k) * static_cast<size_t>(width_);
@@ -61,10 +74,7 @@ void ExpressionStore::releaseSegmentsFrom(int count) {
     std::free(segments_[segmentCount_]);
     segments_[segmentCount_] = nullptr;
   }
-  if (segmentCount_ == 0) {
-    std::free(segments_);
-    segments_ = nullptr;
-  }
+  if (segmentCount_ == 0) freeTable();
 }
 
 }  // namespace lumeric

@@ -45,8 +45,11 @@ class ExpressionStore {
   static int segmentOf(uint32_t position) { return 31 - __builtin_clz(position); }
   void addSegmentsFor(int count);
   void releaseSegmentsFrom(int count);
+  void freeTable();
 
+  // The table of segments: `firstSegment_` while there is at most one.
   FieldExpression** segments_ = nullptr;
+  FieldExpression* firstSegment_ = nullptr;
   int segmentCount_ = 0;
   int size_ = 0;
   int width_;

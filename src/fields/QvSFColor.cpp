@@ -50,7 +50,9 @@ void QvSFColor::write(SceneWriter& out) {
   } else {
     componentNumbers(numbers);
   }
-  for (int k = 0; k < 3; ++k) out.character(' ').number(numbers[k]);
+  for (int k = 0; k < 3; ++k) {
+    out.character(' ').number(finiteAt(numbers[k], isExpression ? &wholeExpression : &values[k]));
+  }
   out.character('\n');
 }
 

@@ -7,6 +7,7 @@
 
 #include <type_traits>
 
+#include "expr/TermArena.h"
 #include "reader/NodeReader.h"
 #include "scene/NodeVisit.h"
 #include "scene/QvGroupNode.h"
@@ -29,6 +30,12 @@ class QvStandardNode : public Base {
   void evaluate(QvGroupNode* parent, bool copy) override {
     if constexpr (kIsGroup) {
       QvGroupNode::evaluate(parent, copy);
+    } else if (copy) {
+      // The copy keeps its values as texts, so the terms evaluated for it
+      // can go at once: a LOOP of many leaves would otherwise hold every
+      // repetition's terms until the end of the run.
+      TermScope scope;
+      this->evaluateLeaf(parent, copy);
     } else {
       this->evaluateLeaf(parent, copy);
     }

@@ -18,7 +18,7 @@
 namespace lumeric {
 
 QvNode::~QvNode() {
-  if (!name.isEmpty()) removeName(this, name.text());
+  if (!name.isEmpty()) removeName(this, name, &registrySlot);
   delete nameExpression;
 }
 
@@ -47,18 +47,23 @@ std::string repairName(const char* text) {
 
 }  // namespace
 
+const char* QvNode::evaluatedName() {
+  if (nameExpression == nullptr) return name.text();
+  return sceneOperations().evaluateNameText(nameExpression);
+}
+
 const char* QvNode::getName() {
   if (nameExpression == nullptr) return name.text();
-  // A computed name is repaired like any name a node is given, so that the
-  // node and its copies carry the same legal name.
-  const char* computed = sceneOperations().evaluateNameText(nameExpression);
+  // A computed name is written repaired like any name a node is given, so
+  // that the node and its copies carry the same legal name.
+  const char* computed = evaluatedName();
   if (computed == nullptr) return nullptr;
   return QvAtom(repairName(computed).c_str()).text();
 }
 
 void QvNode::setName(QvAtom newName, bool nameWasDefined) {
   if (!name.isEmpty()) {
-    removeName(this, name.text());
+    removeName(this, name, &registrySlot);
     name = QvAtom();
   }
   std::string repaired = repairName(newName.text());
@@ -66,7 +71,7 @@ void QvNode::setName(QvAtom newName, bool nameWasDefined) {
   if (warningsEnabled(kWarnDuplicateNames) && !name.isEmpty() && nameWasDefined) {
     warnAtNode(this, "Warning: Duplicate node name \"%s\" found", name.text());
   }
-  if (!name.isEmpty()) addName(this, name.text());
+  if (!name.isEmpty()) addName(this, name, &registrySlot);
 }
 
 void QvNode::setNameExpression(FieldExpression* expression) {
@@ -77,7 +82,9 @@ void QvNode::setNameExpression(FieldExpression* expression) {
 void QvNode::initCopy(QvNode* copy) {
   copy->line = line;
   if (hasName()) {
-    const char* copyName = getName();
+    // The copy is found under the name as computed (the text a name
+    // expression elsewhere builds); only its own name is repaired.
+    const char* copyName = evaluatedName();
     if (copyName != nullptr && theRun.defNames != nullptr) theRun.defNames->addName(QvAtom(copyName), copy);
   }
   QvFieldTable* table = getFieldTable();

@@ -60,6 +60,9 @@ class QvNode {
   // The DEF name: the value of the VARNAME expression when there is one
   // (null when it is not a string), else the name read or given.
   const char* getName();
+  // The DEF name before repair: the text the VARNAME expression gives, or
+  // the name read or given.  Copies are entered in the DEF table under it.
+  const char* evaluatedName();
   // Gives the node a name (repairing characters a name cannot hold) and
   // registers it; see the node reader for the duplicate-name warning.
   void setName(QvAtom newName, bool nameWasDefined = false);
@@ -77,6 +80,8 @@ class QvNode {
   int32_t line = -1;
   QvAtom fileName;
   int32_t refCount = 0;
+  // Where the node's entry is in the registry of named nodes (-1: none).
+  int32_t registrySlot = -1;
 
  protected:
   // The leaf pattern of evaluate(): record the parent, and when copying add

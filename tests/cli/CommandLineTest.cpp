@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "support/SceneRunner.h"
@@ -30,7 +31,13 @@ TEST(CommandLineOptions, ParseAndRefuse) {
       {{}, false, "no INPUT given"},
       {{"a.vlm", "b.vlm"}, false, "only one INPUT may be given"},
       {{"-o"}, false, "option -o needs a value"},
-      {{"-W", "loud", "a.vlm"}, false, "unknown warning \"loud\" (use unknown or duplicate)"},
+      {{"-W", "loud", "a.vlm"}, false, "unknown warning \"loud\" (use unknown, duplicate, all or error)"},
+      {{"-Wloud", "a.vlm"}, false, "unknown warning \"loud\" (use unknown, duplicate, all or error)"},
+      {{"-W", "", "a.vlm"}, false, "option -W needs a value"},
+      {{"-I"}, false, "option -I needs a value"},
+      {{"-", "--stdin-name"}, false, "option --stdin-name needs a value"},
+      {{"--stdin-name", "", "-"}, false, "--stdin-name NAME must not be empty"},
+      {{"--stdin-name", "a.vlm", "b.vlm"}, false, "--stdin-name is used only with INPUT -"},
       {{"--frobnicate", "a.vlm"}, false, "unknown option --frobnicate"},
       {{"--type", "vlm", "a.vlm"}, false, "--type is used only with --check"},
       {{"--check", "-o", "x", "a.vlm"}, false, "-o cannot be combined with --check"},
@@ -48,12 +55,51 @@ TEST(CommandLineOptions, ParseAndRefuse) {
   }
 }
 
+TEST(CommandLineOptions, WarningAndIncludeOptionsTakeSeparateAndJoinedValues) {
+  struct {
+    std::vector<std::string> args;
+    unsigned long warnings;
+    bool asErrors;
+    std::vector<std::string> includeDirectories;
+  } cases[] = {
+      {{"-W", "unknown"}, 2, false, {}},
+      {{"-Wunknown", "-Wduplicate"}, 6, false, {}},
+      {{"-W", "all"}, 6, false, {}},
+      {{"-Wall"}, 6, false, {}},
+      {{"-W", "error"}, 0, true, {}},
+      {{"-Werror", "-Wduplicate"}, 4, true, {}},
+      {{"-I", "parts", "-Ilib/", "-I", "more"}, 0, false, {"parts", "lib/", "more"}},
+  };
+  for (const auto& c : cases) {
+    std::vector<std::string> args = c.args;
+    args.push_back("a.vlm");
+    std::vector<char*> argv{const_cast<char*>("lumeric")};
+    for (const std::string& a : args) argv.push_back(const_cast<char*>(a.c_str()));
+    CommandLine line;
+    std::string error;
+    ASSERT_TRUE(parseCommandLine(static_cast<int>(argv.size()), argv.data(), line, error)) << args[0] << error;
+    EXPECT_EQ(line.warnings, c.warnings) << args[0];
+    EXPECT_EQ(line.warningsAreErrors, c.asErrors) << args[0];
+    EXPECT_EQ(line.includeDirectories, c.includeDirectories) << args[0];
+  }
+}
+
 TEST(CommandLineOptions, FileTypeComesFromTheExtension) {
   EXPECT_EQ(fileTypeOf("scene.vlm"), "vlm");
   EXPECT_EQ(fileTypeOf("SCENE.VLM"), "vlm");
   EXPECT_EQ(fileTypeOf("dir.vlm/scene"), "");
   EXPECT_EQ(fileTypeOf("scene.wrl"), "wrl");
   EXPECT_EQ(fileTypeOf("scene"), "");
+  // Standard input takes its type from --stdin-name, and has none without.
+  for (const auto& names : std::vector<std::pair<std::vector<std::string>, std::string>>{
+           {{"--check", "-"}, ""}, {{"--check", "--stdin-name", "mk/a.VLM", "-"}, "vlm"}}) {
+    std::vector<char*> argv{const_cast<char*>("lumeric")};
+    for (const std::string& a : names.first) argv.push_back(const_cast<char*>(a.c_str()));
+    CommandLine line;
+    std::string error;
+    ASSERT_TRUE(parseCommandLine(static_cast<int>(argv.size()), argv.data(), line, error)) << error;
+    EXPECT_EQ(line.fileType, names.second);
+  }
 }
 
 TEST(CommandLineRun, HelpVersionAndUsageErrors) {
@@ -116,6 +162,35 @@ TEST(CommandLineRun, ErrorsGiveExitStatusOneAndWarningsZero) {
   EXPECT_EQ(warned.err,
             "File \"warn.wrl\" Line 2: Warning: Unknown \"Foo\" node found\n"
             "File \"warn.wrl\" Line 2: Warning: Duplicate node name \"a\" found\n");
+}
+
+TEST(CommandLineRun, WarnErrorCountsWarningsButNotPrintOutput) {
+  ScratchDir dir;
+  dir.write("warn.vlm", "#VRML V1.0 ascii\nGroup {\n\tDEF a Cube { }\n\tDEF a Cube { }\n\tPRINT 1+1\n}\n");
+  dir.write("print.vlm", "#VRML V1.0 ascii\nGroup {\n\tDEF a Cube { }\n\tPRINT 1+1\n}\n");
+  const std::string warning = "File \"warn.vlm\" Line 4: Warning: Duplicate node name \"a\" found\n";
+  struct {
+    std::vector<std::string> options;
+    const char* scene;
+    int status;
+    bool warns;
+  } cases[] = {
+      {{"-W", "duplicate"}, "warn.vlm", 0, true},
+      {{"-W", "error"}, "warn.vlm", 0, false},
+      {{"-W", "duplicate", "-W", "error"}, "warn.vlm", 1, true},
+      {{"-Wduplicate", "-Werror"}, "warn.vlm", 1, true},
+      {{"-Werror", "-Wall"}, "warn.vlm", 1, true},
+      {{"-Wall", "-Werror"}, "print.vlm", 0, false},
+  };
+  for (const auto& c : cases) {
+    std::vector<std::string> args = c.options;
+    for (const char* a : {"-o", "-", c.scene}) args.push_back(a);
+    CommandResult run = runLumeric(args, dir.path());
+    SCOPED_TRACE(args[0] + " " + args[1] + " " + c.scene);
+    EXPECT_EQ(run.status, c.status);
+    EXPECT_EQ(contains(run.err, warning), c.warns) << run.err;
+    EXPECT_FALSE(contains(run.err, "error:")) << "warnings stay warnings in the text";
+  }
 }
 
 TEST(CommandLineRun, MissingInputAndDirectoryArgument) {

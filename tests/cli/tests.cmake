@@ -2,8 +2,11 @@ set(LUMERIC_CLI_TESTS
   cli/CommandLineTest.cpp
   cli/ConfineTest.cpp
   cli/HelpAndManualTest.cpp
+  cli/IncludeSearchTest.cpp
   cli/MessageFormatTest.cpp
   cli/OddInputsTest.cpp
   cli/OutputFilesTest.cpp
   cli/OverridesAndDepsTest.cpp
+  cli/ReadFilesStayTest.cpp
+  cli/StandardInputTest.cpp
 )

@@ -1,15 +1,18 @@
 // Every input that ever crashed or hung a fuzz target is replayed through
-// both entry points, with the budgets and confinement the fuzz targets use,
-// so that the sanitizers of the test build see it again.
+// both entry points and the exporter's plain reading, with the budgets and
+// confinement the fuzz targets use, so that the sanitizers of the test
+// build see it again.
 #include <dirent.h>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <string>
 #include <vector>
 
 #include "core/RunState.h"
+#include "export/SceneExport.h"
 #include "support/SceneRunner.h"
 
 namespace lumeric {
@@ -47,6 +50,20 @@ TEST_P(FuzzRegression, RunsThroughBothEntryPoints) {
   EXPECT_NE(checked.result, -1);
   // The run's end gives the next run the default limits again.
   EXPECT_EQ(theRun.limits.maxEvaluations, RunLimits().maxEvaluations);
+  EXPECT_FALSE(theRun.limits.confine);
+}
+
+TEST_P(FuzzRegression, ExportsAsPlainScene) {
+  ScratchDir dir;
+  const std::string path = dir.write("fuzz-input.wrl", readFile(kRegressionDir + "/" + GetParam()));
+  FILE* file = std::fopen(path.c_str(), "rb");
+  ASSERT_NE(file, nullptr);
+  limitNextRun();
+  ExportOptions options;
+  options.maxVisits = 100000;
+  ExportScene scene;
+  buildPlainExportScene(file, path.c_str(), theRun.limits, nullptr, options, scene);
+  std::fclose(file);
   EXPECT_FALSE(theRun.limits.confine);
 }
 

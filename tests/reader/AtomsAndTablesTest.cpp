@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <set>
 #include <string>
 
 #include "core/QvAtom.h"
@@ -45,15 +47,17 @@ TEST_F(AtomTest, InterningWorksAgainAfterThePoolIsFreed) {
   EXPECT_EQ(QvAtom("after"), after);
 }
 
-TEST(AtomHash, ShiftsGrowByFiveAndWrapPast24) {
-  EXPECT_EQ(QvAtomPool::hash("", 0), 0u);
-  EXPECT_EQ(QvAtomPool::hash("A", 1), 65u);
-  EXPECT_EQ(QvAtomPool::hash("AB", 2), 65u ^ (66u << 5));
-  // The sixth byte is shifted by 25 - 24 = 1.
-  uint32_t expected = 'a' ^ ('a' << 5) ^ ('a' << 10) ^ ('a' << 15) ^ ('a' << 20) ^ ('a' << 1);
-  EXPECT_EQ(QvAtomPool::hash("aaaaaa", 6), expected);
-  // Bytes count as signed: 0xFF is -1, which sets every bit.
-  EXPECT_EQ(QvAtomPool::hash("\xff", 1), 0xFFFFFFFFu);
+// Names generated in a LOOP differ in a few digits; they must not share
+// hash values, or interning a million of them walks long bucket chains.
+TEST(AtomHash, GeneratedNamesSpreadOverDistinctValues) {
+  std::set<uint32_t> hashes;
+  constexpr int kNames = 100000;
+  for (int i = 0; i < kNames; ++i) {
+    std::string name = "t" + std::to_string(i);
+    hashes.insert(QvAtomPool::hash(name.data(), name.size()));
+  }
+  EXPECT_GT(hashes.size(), kNames * 99u / 100);
+  EXPECT_EQ(QvAtomPool::hash("b0.5", 4), QvAtomPool::hash("b0.5x", 4));
 }
 
 TEST(AtomKeyedTable, EnteringAKeyTwiceKeepsOneEntryWithTheLaterValue) {
@@ -86,22 +90,26 @@ TEST(AtomKeyedTable, KeysInOneBucketStayApart) {
   }
 }
 
-// Nodes enter the registry when named and leave when renamed or freed;
-// leaving a name the node never had is the caller's error.
-TEST_F(AtomTest, NameRegistryRemovesTheLastEntryOfANodeOnly) {
-  QvNode* a = reinterpret_cast<QvNode*>(0x10);
-  QvNode* b = reinterpret_cast<QvNode*>(0x20);
+// Nodes enter the registry when named and leave when renamed or freed, in
+// any order; leaving a name the node does not have is the caller's error.
+TEST_F(AtomTest, NameRegistryRemovesEntriesInAnyOrder) {
+  constexpr int kNodes = 6;
+  QvNode* nodes[kNodes];
+  int32_t slots[kNodes];
   QvNameTable names;
-  EXPECT_FALSE(names.remove(QvAtom("Wheel"), a));
-  names.add(QvAtom("Wheel"), a);
-  names.add(QvAtom("Wheel"), b);
-  names.add(QvAtom("Wheel"), a);
-  EXPECT_FALSE(names.remove(QvAtom("Axle"), a));
-  EXPECT_TRUE(names.remove(QvAtom("Wheel"), a));
-  EXPECT_TRUE(names.remove(QvAtom("Wheel"), a));
-  EXPECT_FALSE(names.remove(QvAtom("Wheel"), a));
-  EXPECT_TRUE(names.remove(QvAtom("Wheel"), b));
-  EXPECT_FALSE(names.remove(QvAtom("Wheel"), b));
+  for (int i = 0; i < kNodes; ++i) {
+    nodes[i] = reinterpret_cast<QvNode*>(uintptr_t{0x10} * (i + 1));
+    names.add(QvAtom("Wheel"), nodes[i], &slots[i]);
+  }
+  int32_t unnamed = -1;
+  EXPECT_FALSE(names.remove(QvAtom("Wheel"), nodes[0], &unnamed));
+  EXPECT_FALSE(names.remove(QvAtom("Axle"), nodes[0], &slots[0]));
+  // First, last, middle: every removal moves another entry.
+  for (int i : {0, 5, 2, 3, 1, 4}) {
+    EXPECT_TRUE(names.remove(QvAtom("Wheel"), nodes[i], &slots[i])) << i;
+    EXPECT_EQ(slots[i], -1);
+    EXPECT_FALSE(names.remove(QvAtom("Wheel"), nodes[i], &slots[i])) << i;
+  }
 }
 
 TEST(PointerList, InsertRemoveAndFindKeepOrder) {

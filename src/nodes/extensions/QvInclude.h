@@ -1,5 +1,7 @@
 // INCLUDE: reads another scene file at its place; that file's root node
 // becomes the statement's only child and stands in the output in its place.
+// A relative name that does not open as written is looked for beside the
+// including file, then in the run's include directories.
 #ifndef LUMERIC_NODES_EXTENSIONS_QVINCLUDE_H
 #define LUMERIC_NODES_EXTENSIONS_QVINCLUDE_H
 
@@ -24,7 +26,8 @@ class QvInclude : public QvGroupNode {
   void write(SceneWriter& out) override;
   bool readInstance(QvSceneInput* in) override;
 
-  // Reads the file named by `nameText` through `in`; its root, or null.
+  // Finds and reads the file named by `nameText` through `in`; its root, or
+  // null.
   static QvNode* includeFile(FieldExpression& nameText, QvSceneInput* in);
 
  private:

@@ -17,6 +17,8 @@ class QvUseStatement : public QvStatementNode {
   void evaluate(QvGroupNode* parent, bool copy) override;
   void write(SceneWriter& out) override;
   bool readInstance(QvSceneInput* in) override;
+  // The text read: "use " and the name.
+  const FieldExpression& expression() const { return expression_; }
 
  private:
   FieldExpression expression_;

@@ -1,0 +1,15 @@
+set(LUMERIC_EXPORT_SOURCES
+  src/export/ExportScene.cpp
+  src/export/FaceSets.cpp
+  src/export/MaterialBinding.cpp
+  src/export/Matrices.cpp
+  src/export/MeshBuilder.cpp
+  src/export/Normals.cpp
+  src/export/Primitives.cpp
+  src/export/SceneExport.cpp
+  src/export/SceneTraversal.cpp
+  src/export/Tessellator.cpp
+  src/export/TextureCoordinates.cpp
+  src/export/Textures.cpp
+  src/export/TraversalState.cpp
+)
