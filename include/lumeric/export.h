@@ -17,9 +17,11 @@ extern "C" {
 // takes the format from the extension of `outputPath`.  OUTPUT_TO
 // statements open nothing.  An OBJ's material library and the textures of
 // OBJ and X3D are written beside `outputPath`.  Every file is written whole
-// or not at all.  A scene with errors exports what was translated; nothing
-// is written when the input cannot be opened.  Messages go to `view`, which
-// may be null.
+// or not at all, and none replaces a file the run reads (the input, an
+// INCLUDE): the call then posts "Refusing to overwrite FILE, which this run
+// reads" and writes nothing.  A scene with errors exports what was
+// translated; nothing is written when the input cannot be opened.  Messages
+// go to `view`, which may be null.
 // Returns 0 when no error was posted, else 1.
 LUMERIC_EXPORT int ExportVRMLLumeric(const char* inputPath, const char* outputPath, const char* format,
                                      CReportErrorView* view);

@@ -40,6 +40,18 @@ bool inputOpens(const char* inputPath, const char* directory) {
   return opens(input) || (directory != nullptr && opens(directory + input));
 }
 
+// Whether a file of the export would replace one the run read; each such
+// file is refused with an error, and then nothing of the export is written.
+bool replacesFileRead(const ExportedFiles& files, const RunAdditions& additions, ExportMessages& messages) {
+  bool refused = false;
+  for (const ExportedFile& file : files) {
+    if (!isAmongFiles(file.path.c_str(), additions.filesRead)) continue;
+    messages.error("Refusing to overwrite " + file.path + ", which this run reads");
+    refused = true;
+  }
+  return refused;
+}
+
 int translateOnly(const ExportRequest& request, CountingView& view) {
   OutputOverride output;
   output.stream = request.stream;
@@ -56,11 +68,12 @@ int runExport(const ExportRequest& request, CReportErrorView* view) {
   if (request.format == ExportFormat::kWrl) return translateOnly(request, counting);
   // As the translation writes what it translated, errors or not, an
   // export is written whenever the input was read.
-  const bool inputRead = inputOpens(request.inputPath, request.directory);
+  RunAdditions own;
+  RunAdditions& additions = request.additions != nullptr ? *request.additions : own;
+  const bool inputRead = additions.inputStream != nullptr || inputOpens(request.inputPath, request.directory);
   ExportScene scene;
-  buildExportScene(request.inputPath, &counting, request.directory, request.additions, request.options, scene);
-  if (!inputRead) return counting.errors();
-  if (request.additions != nullptr && !request.additions->overrideError.empty()) return counting.errors();
+  buildExportScene(request.inputPath, &counting, request.directory, &additions, request.options, scene);
+  if (!inputRead || !additions.overrideError.empty()) return counting.errors();
   {
     ExportMessages messages(&counting);
     ExportedFiles files;
@@ -68,7 +81,7 @@ int runExport(const ExportRequest& request, CReportErrorView* view) {
       messages.flush();
       if (request.stream != nullptr) {
         writeExportToStream(files, request.stream, messages);
-      } else {
+      } else if (!replacesFileRead(files, additions, messages)) {
         writeExportedFiles(files, messages);
       }
     }

@@ -5,6 +5,7 @@ add_executable(lumeric_export_format_tests
   support/RecordingView.cpp
   support/SceneRunner.cpp
   support/LibrarySetUp.cpp
+  export/formats/CliExportTest.cpp
   export/formats/ExportTestScenes.cpp
   export/formats/ExportFilesTest.cpp
   export/formats/GltfWriterTest.cpp
@@ -18,6 +19,7 @@ target_include_directories(lumeric_export_format_tests PRIVATE ${CMAKE_CURRENT_S
 target_include_directories(lumeric_export_format_tests SYSTEM PRIVATE ${LUMERIC_TINYGLTF_INCLUDE_DIR})
 target_link_libraries(lumeric_export_format_tests PRIVATE
   lumeric_export_static lumeric_core nlohmann_json::nlohmann_json GTest::gtest GTest::gtest_main)
+add_dependencies(lumeric_export_format_tests lumeric_cli)
 target_compile_definitions(lumeric_export_format_tests PRIVATE
   LUMERIC_CLI_PATH="$<TARGET_FILE:lumeric_cli>"
   LUMERIC_TEST_DIR="${CMAKE_CURRENT_SOURCE_DIR}"
