@@ -2,18 +2,11 @@
 # Debian (tinygltf, nlohmann-json), and the exporter's shared library
 # liblumeric_export.so, which exports ExportVRMLLumeric and nothing else.
 # Include after cmake/Export.cmake, which defines the exporter's static
-# library lumeric_export_static from its own sources and these.
-include(src/export/formats/sources.cmake)
+# library lumeric_export_static from its own sources and these
+# (src/export/formats/sources.cmake).
 find_package(nlohmann_json 3 REQUIRED)
 find_path(LUMERIC_TINYGLTF_INCLUDE_DIR tiny_gltf.h REQUIRED)
 
-if(NOT TARGET lumeric_export_static)
-  # Without the exporter's core in the tree: the writers alone, with
-  # stand-ins for the scene model's functions and the pipeline's entry.
-  add_library(lumeric_export_static STATIC ${LUMERIC_EXPORT_FORMAT_SOURCES}
-    src/export/formats/ExportSceneStandIn.cpp)
-  target_link_libraries(lumeric_export_static PUBLIC lumeric_core)
-endif()
 target_include_directories(lumeric_export_static SYSTEM PRIVATE ${LUMERIC_TINYGLTF_INCLUDE_DIR})
 target_link_libraries(lumeric_export_static PRIVATE nlohmann_json::nlohmann_json)
 target_compile_definitions(lumeric_export_static PRIVATE LUMERIC_VERSION="${PROJECT_VERSION}")
