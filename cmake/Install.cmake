@@ -1,25 +1,31 @@
 # What `cmake --install` puts where, and the files through which other
-# projects find the installed library: a CMake package (find_package(lumeric)
-# gives the target lumeric::lumeric) and a pkg-config file (lumeric.pc).
-# Include after the targets lumeric and lumeric_cli are defined.
+# projects find the installed libraries: a CMake package (find_package(lumeric)
+# gives the targets lumeric::lumeric, the translator, and
+# lumeric::lumeric_export, the exporter) and a pkg-config file for each
+# (lumeric.pc, lumeric-export.pc).
+# Include after the targets lumeric, lumeric_export and lumeric_cli are defined.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 # liblumeric.so.MAJOR is the name hosts load; .so.MAJOR.MINOR.PATCH the file.
-set_target_properties(lumeric PROPERTIES
-  VERSION ${PROJECT_VERSION}
-  SOVERSION ${PROJECT_VERSION_MAJOR})
-target_include_directories(lumeric INTERFACE
-  $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
-  $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+# The same for liblumeric_export.so, which holds a copy of the translator
+# and needs no other lumeric library.
+foreach(library lumeric lumeric_export)
+  set_target_properties(${library} PROPERTIES
+    VERSION ${PROJECT_VERSION}
+    SOVERSION ${PROJECT_VERSION_MAJOR})
+  target_include_directories(${library} INTERFACE
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+endforeach()
 
 set(LUMERIC_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/lumeric)
 set(LUMERIC_DOC_DIR ${CMAKE_INSTALL_DATADIR}/doc/lumeric)
 
 install(TARGETS lumeric_cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(TARGETS lumeric EXPORT lumericTargets
+install(TARGETS lumeric lumeric_export EXPORT lumericTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(FILES ${PROJECT_SOURCE_DIR}/include/lumeric/lumeric.h
+install(FILES ${PROJECT_SOURCE_DIR}/include/lumeric/lumeric.h ${PROJECT_SOURCE_DIR}/include/lumeric/export.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/lumeric)
 install(FILES ${PROJECT_SOURCE_DIR}/docs/lumeric.1
   DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
@@ -51,10 +57,10 @@ install(FILES
 file(RELATIVE_PATH LUMERIC_PC_TO_PREFIX
   /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 string(REGEX REPLACE "/$" "" LUMERIC_PC_TO_PREFIX "${LUMERIC_PC_TO_PREFIX}")
-configure_file(${CMAKE_CURRENT_LIST_DIR}/lumeric.pc.in
-  ${CMAKE_CURRENT_BINARY_DIR}/lumeric.pc @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/lumeric.pc
-  DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+foreach(pc lumeric lumeric-export)
+  configure_file(${CMAKE_CURRENT_LIST_DIR}/${pc}.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${pc}.pc @ONLY)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${pc}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endforeach()
 
 # Editor support (vim, Emacs, VS Code), which users copy or point their
 # editor at; editors/README.md says how.

@@ -20,7 +20,15 @@ const char kUsageText[] =
     "\n"
     "Options:\n"
     "  -o FILE        write the result to FILE instead (\"-\" for standard output);\n"
-    "                 this takes precedence over OUTPUT_TO\n"
+    "                 this takes precedence over OUTPUT_TO.  FILE's extension\n"
+    "                 chooses the format: .glb, .gltf, .stl, .obj or .x3d export\n"
+    "                 the scene; any other writes VRML 1.0\n"
+    "  --format FORMAT\n"
+    "                 with -o: write FORMAT whatever FILE's extension: wrl, glb,\n"
+    "                 gltf, stl, obj or x3d (needed with -o -)\n"
+    "  --tessellation N\n"
+    "                 in an export: N segments around spheres, cones and\n"
+    "                 cylinders (3 to 1024), whatever Complexity says\n"
     "  --check        only read and expand the scene and report its errors; no\n"
     "                 result is written\n"
     "  --type TYPE    with --check: the file type; \"vlm\" (any case) enables the\n"
@@ -79,6 +87,10 @@ const char kUsageText[] =
     "           {\"file\":\"FILE\",\"line\":N,\"severity\":\"error\",\"message\":\"TEXT\"}\n"
     "         severity error, warning or note; file and line null when unknown\n"
     "\n"
+    "An export (glTF 2.0, STL, OBJ, X3D) shows exactly the scene the VRML 1.0\n"
+    "result describes.  .gltf embeds its data; .obj writes NAME.mtl and its\n"
+    "textures beside it (not with -o -); .stl leaves out lines and points.\n"
+    "\n"
     "Exit status: 0 when no error was reported, 1 when at least one was (or, with\n"
     "-W error, a warning), 2 for a usage error (a -D that names no node or field,\n"
     "a --deps FILE that cannot be written).  A result (-o, --deps, OUTPUT_TO or\n"
@@ -87,6 +99,8 @@ const char kUsageText[] =
     "\n"
     "Examples:\n"
     "  lumeric -o scene.wrl examples/expressions.vlm\n"
+    "  lumeric -o molecule.glb examples/molecule.vlm\n"
+    "  lumeric --format stl --tessellation 64 -o - examples/molecule.vlm > m.stl\n"
     "  lumeric --check --message-format gnu examples/expressions.vlm\n"
     "  lumeric -D Params:size=2.5 --deps scene.d -o scene.wrl scene.vlm\n"
     "  lumeric --check --stdin-name mk/scene.vlm -I parts - < mk/scene.vlm\n"
@@ -124,6 +138,21 @@ bool takeCount(int argc, char** argv, int& i, long& count, std::string& error) {
     error = std::string("option ") + argv[i - 1] + " needs a whole number from 1 up, not \"" + value + "\"";
     return false;
   }
+  return true;
+}
+
+// --tessellation's value: a whole number from 3 to 1024.
+bool takeTessellation(int argc, char** argv, int& i, int& segments, std::string& error) {
+  std::string value;
+  if (!takeValue(argc, argv, i, value, error)) return false;
+  char* end = nullptr;
+  errno = 0;
+  const long count = std::strtol(value.c_str(), &end, 10);
+  if (value.empty() || *end != '\0' || errno != 0 || count < 3 || count > 1024) {
+    error = "option --tessellation needs a whole number from 3 to 1024, not \"" + value + "\"";
+    return false;
+  }
+  segments = static_cast<int>(count);
   return true;
 }
 
@@ -179,6 +208,7 @@ bool parseFieldOverride(const std::string& text, FieldOverride& change) {
 
 bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& error) {
   bool typeSet = false;
+  bool formatSet = false;
   bool noMoreOptions = false;
   for (int i = 1; i < argc; ++i) {
     std::string arg = argv[i];
@@ -196,6 +226,16 @@ bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& err
       } else if (arg == "-o") {
         if (!takeValue(argc, argv, i, line.output, error)) return false;
         line.outputSet = true;
+      } else if (arg == "--format") {
+        std::string name;
+        if (!takeValue(argc, argv, i, name, error)) return false;
+        if (!exportFormatByName(name, line.format)) {
+          error = "unknown format \"" + name + "\" (use wrl, glb, gltf, stl, obj or x3d)";
+          return false;
+        }
+        formatSet = true;
+      } else if (arg == "--tessellation") {
+        if (!takeTessellation(argc, argv, i, line.tessellation, error)) return false;
       } else if (arg == "--type") {
         if (!takeValue(argc, argv, i, line.fileType, error)) return false;
         typeSet = true;
@@ -281,6 +321,19 @@ bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& err
   if (!line.stdinName.empty() && !line.readsStandardInput()) {
     error = "--stdin-name is used only with INPUT -";
     return false;
+  }
+  if (formatSet && line.action == CommandLine::kCheck) {
+    error = "--format cannot be combined with --check";
+    return false;
+  }
+  if (formatSet && !line.outputSet) {
+    error = "--format needs -o FILE";
+    return false;
+  }
+  // Without --format an export format comes from -o's extension; any
+  // other extension keeps VRML 1.0.
+  if (!formatSet && line.outputSet && line.output != "-" && !exportFormatOfPath(line.output, line.format)) {
+    line.format = ExportFormat::kWrl;
   }
   if (!typeSet) line.fileType = fileTypeOf(line.inputName());
   return true;

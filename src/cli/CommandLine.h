@@ -8,6 +8,7 @@
 #include "cli/MessageFormat.h"
 #include "driver/FieldOverrides.h"
 #include "core/RunState.h"
+#include "export/ExportFormat.h"
 
 namespace lumeric {
 
@@ -28,6 +29,10 @@ struct CommandLine {
   std::vector<FieldOverride> overrides;  // -D, in order
   std::string depsFile;                  // --deps; empty: none
   RunLimits limits;  // --max-evaluations, --max-nodes, --confine
+  // What is written: VRML 1.0 (kWrl) unless --format or the extension of
+  // -o names an export format.
+  ExportFormat format = ExportFormat::kWrl;
+  int tessellation = 0;  // --tessellation; 0: as Complexity says
 
   bool readsStandardInput() const { return input == "-"; }
   // The name the input goes by in messages, --deps and for INCLUDE: the

@@ -1,4 +1,5 @@
-// The lumeric command: options in, one library call, exit status out.
+// The lumeric command: options in, one library call (a translation or an
+// export), exit status out.
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -12,6 +13,7 @@
 #include "core/OutputFile.h"
 #include "core/RunState.h"
 #include "driver/Translation.h"
+#include "export/formats/ExportRun.h"
 #include "lumeric/lumeric.h"
 
 #ifndef LUMERIC_VERSION
@@ -99,6 +101,16 @@ int main(int argc, char** argv) {
   char outputName[kOutputNameSize] = "";
   if (line.action == CommandLine::kCheck) {
     checkScene(input.data(), &view, directory.data(), line.fileType.c_str(), &additions);
+  } else if (line.format != ExportFormat::kWrl) {
+    ExportRequest request;
+    request.inputPath = input.data();
+    request.directory = directory.data();
+    request.outputPath = line.output;
+    if (line.output == "-") request.stream = stdout;
+    request.format = line.format;
+    request.options.tessellation = line.tessellation;
+    request.additions = &additions;
+    runExport(request, &view);
   } else {
     OutputOverride output;
     if (line.outputSet) {

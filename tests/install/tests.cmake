@@ -23,7 +23,7 @@ add_test(NAME install.tree
     --build-dir ${PROJECT_BINARY_DIR}
     --work-dir ${CMAKE_CURRENT_BINARY_DIR}/install-test
     --tests-dir ${CMAKE_CURRENT_LIST_DIR}/..)
-set_tests_properties(install.tree PROPERTIES TIMEOUT 120)
+set_tests_properties(install.tree PROPERTIES TIMEOUT 240)
 
 # The manual page must format without a warning.
 find_program(LUMERIC_GROFF groff)
