@@ -27,6 +27,13 @@ size_t hashOf(const ExportMaterial& m) {
   return std::hash<std::string>()(bytes);
 }
 
+// A Material that gives only emissive colours (its ambient, diffuse and
+// specular lists empty) is not lit: viewers show its emissive colours as
+// they are.
+bool emissiveOnly(const MaterialValues& values) {
+  return values.ambient.empty() && values.diffuse.empty() && values.specular.empty() && !values.emissive.empty();
+}
+
 }  // namespace
 
 int MaterialTable::add(const ExportMaterial& material) {
@@ -56,6 +63,10 @@ ExportMaterial materialValue(const TraversalState& state, int index, bool double
   m.texture = state.texture;
   m.doubleSided = doubleSided;
   m.unlit = unlit;
+  if (emissiveOnly(values)) {
+    m.diffuse = m.emissive;
+    m.unlit = true;
+  }
   return m;
 }
 
@@ -68,7 +79,8 @@ ExportMaterial vertexColorMaterial(const TraversalState& state, bool doubleSided
 
 std::array<float, 4> vertexColor(const TraversalState& state, int index) {
   const MaterialValues& values = *state.material;
-  const Color3 diffuse = valueAt(values.diffuse, index, Color3{{0.8f, 0.8f, 0.8f}});
+  const Color3 diffuse = emissiveOnly(values) ? valueAt(values.emissive, index, Color3{{0, 0, 0}})
+                                              : valueAt(values.diffuse, index, Color3{{0.8f, 0.8f, 0.8f}});
   const float transparency = valueAt(values.transparency, index, 0.0f);
   return {{diffuse[0], diffuse[1], diffuse[2], 1.0f - transparency}};
 }

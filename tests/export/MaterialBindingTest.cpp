@@ -124,6 +124,16 @@ TEST(PrimitiveBinding, PartsTakeTheirMaterialsInOrder) {
     EXPECT_GT(areas.at(kRed), 0) << shape;
   }
 
+  // A Material of emissive colours alone is shown unlit in those colours.
+  const ExportRun emissive = exportText(plainScene(
+      "Separator { Material { ambientColor [] diffuseColor [] specularColor [] emissiveColor [ 1 0 0, 0 1 0 ] }"
+      " MaterialBinding { value PER_FACE } Cube {} }"));
+  f = figuresOf(emissive.scene);
+  EXPECT_NEAR(f.areaByColor[kRed], 12, 1e-9);
+  EXPECT_NEAR(f.areaByColor[kGreen], 12, 1e-9);
+  ASSERT_FALSE(emissive.scene.materials.empty());
+  EXPECT_TRUE(emissive.scene.materials[0].unlit);
+
   // OVERALL: the first material everywhere.
   const ExportRun overall = exportText(plainScene(
       "Separator { Material { diffuseColor [ 1 0 0, 0 1 0 ] } MaterialBinding { value OVERALL } Cube {} }"));
