@@ -31,6 +31,9 @@ const char kUsageText[] =
     "                 cylinders (3 to 1024), whatever Complexity says\n"
     "  --check        only read and expand the scene and report its errors; no\n"
     "                 result is written\n"
+    "  --lint         translate the whole scene, evaluating every field, and\n"
+    "                 report every message a translation gives; no result is\n"
+    "                 written (editors run this)\n"
     "  --type TYPE    with --check: the file type; \"vlm\" (any case) enables the\n"
     "                 extended language, anything else reads plain VRML 1.0.\n"
     "                 Default: taken from INPUT's extension, or --stdin-name's\n"
@@ -223,6 +226,8 @@ bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& err
         return true;
       } else if (arg == "--check") {
         line.action = CommandLine::kCheck;
+      } else if (arg == "--lint") {
+        line.action = CommandLine::kLint;
       } else if (arg == "-o") {
         if (!takeValue(argc, argv, i, line.output, error)) return false;
         line.outputSet = true;
@@ -306,12 +311,13 @@ bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& err
     error = "--type is used only with --check";
     return false;
   }
-  if (line.outputSet && line.action == CommandLine::kCheck) {
-    error = "-o cannot be combined with --check";
+  const std::string mode = line.action == CommandLine::kLint ? "--lint" : "--check";
+  if (line.outputSet && line.writesNothing()) {
+    error = "-o cannot be combined with " + mode;
     return false;
   }
-  if (!line.depsFile.empty() && line.action == CommandLine::kCheck) {
-    error = "--deps cannot be combined with --check";
+  if (!line.depsFile.empty() && line.writesNothing()) {
+    error = "--deps cannot be combined with " + mode;
     return false;
   }
   if (!line.depsFile.empty() && line.outputSet && line.output == "-") {
@@ -322,8 +328,8 @@ bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& err
     error = "--stdin-name is used only with INPUT -";
     return false;
   }
-  if (formatSet && line.action == CommandLine::kCheck) {
-    error = "--format cannot be combined with --check";
+  if (formatSet && line.writesNothing()) {
+    error = "--format cannot be combined with " + mode;
     return false;
   }
   if (formatSet && !line.outputSet) {

@@ -101,6 +101,14 @@ int main(int argc, char** argv) {
   char outputName[kOutputNameSize] = "";
   if (line.action == CommandLine::kCheck) {
     checkScene(input.data(), &view, directory.data(), line.fileType.c_str(), &additions);
+  } else if (line.action == CommandLine::kLint) {
+    // The whole translation, written nowhere: OUTPUT_TO opens nothing
+    // either, since the command chose the output.
+    OutputOverride output;
+    output.stream = std::fopen("/dev/null", "w");
+    if (output.stream == nullptr) return usageError(std::string("cannot open /dev/null: ") + std::strerror(errno));
+    translateScene(input.data(), &view, directory.data(), outputName, &output, &additions);
+    std::fclose(output.stream);
   } else if (line.format != ExportFormat::kWrl) {
     ExportRequest request;
     request.inputPath = input.data();

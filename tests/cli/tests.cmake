@@ -3,6 +3,7 @@ set(LUMERIC_CLI_TESTS
   cli/ConfineTest.cpp
   cli/HelpAndManualTest.cpp
   cli/IncludeSearchTest.cpp
+  cli/LintTest.cpp
   cli/MessageFormatTest.cpp
   cli/OddInputsTest.cpp
   cli/OutputFilesTest.cpp
