@@ -90,6 +90,7 @@ class GltfBuilder {
     model_.asset.generator = generatorName();
     model_.buffers.emplace_back();
     tinygltf::Scene gltfScene;
+    model_.nodes.reserve(scene_.nodes.size());
     for (const ExportNode& node : scene_.nodes) addNode(node, gltfScene.nodes);
     // A scene must list a node: an empty file has none.
     if (!gltfScene.nodes.empty()) {
