@@ -50,6 +50,7 @@ fuzz: deps
 bench: release-bench
 	bench/run.sh $(RELEASE_DIR)
 	bench/generators.py $(RELEASE_DIR)/lumeric
+	bench/export.py $(RELEASE_DIR)/lumeric
 
 # The generators against OpenSCAD and POV-Ray, and their growth with size.
 bench-generators: release
