@@ -81,6 +81,13 @@ void noteFileRead(FILE* stream) {
   }
 }
 
+bool fileIdentityOf(const char* path, FileIdentity& identity) {
+  struct stat status;
+  if (stat(path, &status) != 0) return false;
+  identity = FileIdentity{static_cast<unsigned long long>(status.st_dev), static_cast<unsigned long long>(status.st_ino)};
+  return true;
+}
+
 bool isAmongFiles(const char* path, const std::vector<FileIdentity>& files) {
   struct stat target;
   if (stat(path, &target) != 0) return false;

@@ -31,6 +31,10 @@ struct FileIdentity {
   unsigned long long inode = 0;
 };
 
+// The identity of the file `path` names (its links followed); false when it
+// names none.
+bool fileIdentityOf(const char* path, FileIdentity& identity);
+
 // Records the file behind `stream` in theRun.filesRead.
 void noteFileRead(FILE* stream);
 

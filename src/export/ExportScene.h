@@ -124,6 +124,9 @@ struct ExportScene {
   std::vector<ExportTexture> textures;
   std::vector<ExportCamera> cameras;
   std::vector<ExportLight> lights;
+  // The files the export read besides the translation's own (inlined
+  // scenes, texture images), as opened, in the order read.
+  std::vector<std::string> filesRead;
 };
 
 }  // namespace lumeric

@@ -93,6 +93,15 @@ int buildExportScene(const char* inputPath, CReportErrorView* view, const char* 
   }
   buildPlainExportScene(text, openedPath(inputPath, directory).c_str(), limits, view, options, scene);
   std::fclose(text);
+  // What the export read counts as read by the run: --deps names it, and
+  // no output may replace it.
+  if (additions != nullptr) {
+    for (const std::string& path : scene.filesRead) {
+      additions->includedFiles.push_back(path);
+      FileIdentity identity;
+      if (fileIdentityOf(path.c_str(), identity)) additions->filesRead.push_back(identity);
+    }
+  }
   return result;
 }
 

@@ -546,6 +546,7 @@ void SceneTraversal::visitInline(QvWWWInline& node, TraversalState& state) {
     int errorNumber = 0;
     if (FILE* file = openForReading(path.c_str(), errorNumber)) {
       inlineNames_.push_back(path);
+      scene_.filesRead.push_back(path);
       root = readPlainNodeInRun(file, inlineNames_.back().c_str());
       std::fclose(file);
     }

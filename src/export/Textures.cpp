@@ -103,7 +103,11 @@ int TextureLoader::fileTexture(const std::string& path, const std::string& name,
   auto cached = files_.find(path);
   if (cached == files_.end()) {
     std::vector<unsigned char> bytes;
-    if (!readWholeFile(path, bytes)) bytes.clear();
+    if (readWholeFile(path, bytes)) {
+      scene_.filesRead.push_back(path);
+    } else {
+      bytes.clear();
+    }
     cached = files_.emplace(path, std::move(bytes)).first;
   }
   ExportTexture texture;

@@ -160,6 +160,31 @@ TEST(CliExportTest, DepsNameTheExport) {
   EXPECT_EQ(rule.substr(0, rule.find('\n')), "out.glb: scene.vlm part.wrl") << rule;
 }
 
+// An export also reads what the scene shows by reference: inlined scenes
+// and texture images.  --deps names them, and no export file replaces one.
+TEST(CliExportTest, InlinedScenesAndTexturesCountAsRead) {
+  ScratchDir dir;
+  dir.write("inlined.wrl", "#VRML V1.0 ascii\nCube { }\n");
+  // A PNG of one white pixel.
+  const unsigned char png[] = {0x89, 'P',  'N',  'G',  0x0d, 0x0a, 0x1a, 0x0a, 0,    0,    0,    0x0d, 'I',  'H',
+                               'D',  'R',  0,    0,    0,    1,    0,    0,    0,    1,    8,    0,    0,    0,
+                               0,    0x3a, 0x7e, 0x9b, 0x55, 0,    0,    0,    0x0a, 'I',  'D',  'A',  'T',  0x78,
+                               0x9c, 0x63, 0xf8, 0x0f, 0,    0x01, 0x01, 0x01, 0,    0x1b, 0xb6, 0xee, 0x56, 0,
+                               0,    0,    0,    'I',  'E',  'N',  'D',  0xae, 0x42, 0x60, 0x82};
+  dir.write("white.png", std::string(reinterpret_cast<const char*>(png), sizeof png));
+  dir.write("scene.vlm",
+            "#VRML V1.0 ascii\nSeparator { WWWInline { name \"inlined.wrl\" }"
+            " Texture2 { filename \"white.png\" } Cube { } }\n");
+  const CommandResult run = runLumeric({"--deps", "out.d", "-o", "out.glb", "scene.vlm"}, dir.path());
+  ASSERT_EQ(run.status, 0) << run.err;
+  const std::string rule = dir.read("out.d");
+  EXPECT_EQ(rule.substr(0, rule.find('\n')), "out.glb: scene.vlm inlined.wrl white.png") << rule;
+  const CommandResult onto = runLumeric({"-o", "inlined.wrl", "--format", "glb", "scene.vlm"}, dir.path());
+  EXPECT_EQ(onto.status, 1);
+  EXPECT_NE(onto.err.find("Refusing to overwrite inlined.wrl, which this run reads"), std::string::npos) << onto.err;
+  EXPECT_EQ(dir.read("inlined.wrl"), "#VRML V1.0 ascii\nCube { }\n");
+}
+
 TEST(CliExportTest, NoExportFileReplacesAFileTheRunReads) {
   ScratchDir dir;
   // The scene itself, and the material library an OBJ would write beside.
