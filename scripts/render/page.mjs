@@ -36,10 +36,11 @@ function firstCamera(root) {
   return found;
 }
 
-// The box of what is drawn: the points of every mesh, line and point set in
-// world coordinates.
+// The box of what is drawn as the VRML viewer takes it: each mesh's own box
+// carried into world coordinates (so a turned shape's box is the box of its
+// turned box, larger than the shape's).
 function sceneBox(root) {
-  return new THREE.Box3().setFromObject(root, true);
+  return new THREE.Box3().setFromObject(root, false);
 }
 
 // Without a camera, the VRML viewer looks down -Z with +Y up from the

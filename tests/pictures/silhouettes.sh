@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Pictures of a few scenes taken both ways: the VRML 1.0 translation by the
 # VRML viewer (view3dscene) and the glTF export by three.js in headless
-# Chromium (scripts/render), each 480x360 from the scene's own camera (the
-# fitted default view for expressions.vlm, which has none).  compare.mjs
+# Chromium (scripts/render), each 480x360 from the scene's own camera, or
+# from the view both fit to the scene when it has none (expressions.vlm,
+# fitted.wrl).  compare.mjs
 # then bounds the share of pixels covered in one picture and not in the
 # other; see BOUND below.
 #   tests/pictures/silhouettes.sh LUMERIC [KEEP_DIR]
@@ -35,6 +36,8 @@ cases=(
   floorplan "$root/examples/floorplan.vlm" "$root/examples/floorplan.vlm"
   staircase "$root/examples/staircase.vlm" "$root/examples/staircase.vlm"
   mirrored "$here/mirrored.wrl" "$here/mirrored-reference.wrl"
+  fitted "$here/fitted.wrl" "$here/fitted.wrl"
+  orthographic "$here/orthographic.wrl" "$here/orthographic.wrl"
 )
 
 skip() {
