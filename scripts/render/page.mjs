@@ -184,7 +184,8 @@ function describeCamera(camera, fitted) {
 // a data: URL and a description of the camera used.
 window.renderPicture = async function renderPicture(url, width, height) {
   const gltf = await new GLTFLoader().loadAsync(url);
-  const scene = gltf.scene;
+  // An empty export has no scene: its picture is the background alone.
+  const scene = gltf.scene || new THREE.Scene();
   scene.updateMatrixWorld(true);
   const aspect = width / height;
   const box = sceneBox(scene);
