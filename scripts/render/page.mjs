@@ -53,7 +53,7 @@ function fittedCamera(box, aspect) {
   const center = box.getCenter(new THREE.Vector3());
   const average = (size.x + size.y + size.z) / 3;
   camera.position.set(center.x, center.y, box.max.z + 2 * average);
-  camera.lookAt(center.x, center.y, center.z - 1);
+  camera.lookAt(center.x, center.y, camera.position.z - 1);
   return camera;
 }
 
