@@ -64,8 +64,13 @@ for ((i = 0; i < ${#cases[@]}; i += 3)); do
     "$lumeric" -o "$work/${output%% *}" "${output#* }" >"$work/messages" 2>&1 ||
       { cat "$work/messages"; echo "lumeric failed on ${output#* }"; exit 1; }
   done
-  xvfb-run -a -s "-screen 0 1024x768x24" \
-    view3dscene "$work/$name.wrl" --geometry 480x360 --screenshot 0 "$work/$name-vrml.png" >/dev/null 2>&1
+  # xvfb-run -a can lose the race for a display to a test started at the
+  # same moment: try again.
+  for attempt in 1 2 3; do
+    xvfb-run -a -s "-screen 0 1024x768x24" \
+      view3dscene "$work/$name.wrl" --geometry 480x360 --screenshot 0 "$work/$name-vrml.png" >/dev/null 2>&1 || true
+    [ -s "$work/$name-vrml.png" ] && break
+  done
   [ -s "$work/$name-vrml.png" ] || { echo "view3dscene took no picture of $name"; exit 1; }
   renders+=("$work/$name.glb" "$work/$name-gltf.png")
   comparisons+=("$name" "$work/$name-vrml.png" "$work/$name-gltf.png")
