@@ -27,7 +27,7 @@ case "$profile" in
     packages+=(libgtest-dev libcoin-dev binutils groff-base
       nodejs admesh assimp-utils view3dscene xvfb xauth chromium)
     lean_packages+=(vim emacs-nox)
-    node_folders+=(tests/export editors/vscode)
+    node_folders+=(tests/export editors/vscode scripts/render)
     ;;
   bench) packages+=(libbenchmark-dev libcoin-dev) ;;
   fuzz) packages+=(clang libclang-rt-dev) ;;
