@@ -5,7 +5,6 @@
 #include <cstring>
 #include <new>
 
-#include "core/EntryChain.h"
 
 namespace lumeric {
 
@@ -28,7 +27,6 @@ bool QvAtomPool::exists() { return thePool != nullptr; }
 QvAtomPool::QvAtomPool() : buckets_(new Entry*[kStartingBuckets]()) {}
 
 QvAtomPool::~QvAtomPool() {
-  for (unsigned i = 0; i < bucketCount_; ++i) deleteChain(buckets_[i]);
   delete[] buckets_;
   for (Block* chain : {current_, large_}) {
     while (chain != nullptr) {
@@ -59,8 +57,11 @@ QvAtomPool::Block* QvAtomPool::pushBlock(Block*& head, size_t size) {
   return block;
 }
 
-char* QvAtomPool::store(const char* text, size_t length) {
-  size_t need = length + 1;
+// An entry and its text, side by side in a block: a new entry follows the
+// one interned before it, so the entries of names made one after the other
+// (a LOOP's) share cache lines, and freeing the pool frees blocks only.
+QvAtomPool::Entry* QvAtomPool::store(const char* text, size_t length, uint32_t hash, Entry* next) {
+  const size_t need = sizeof(Entry) + length + 1;
   Block* block;
   if (need >= kBlockSize) {
     block = pushBlock(large_, need);
@@ -69,10 +70,13 @@ char* QvAtomPool::store(const char* text, size_t length) {
     block = current_;
   }
   char* place = block->data() + block->used;
-  std::memcpy(place, text, length);
-  place[length] = '\0';
-  block->used += need;
-  return place;
+  char* copy = place + sizeof(Entry);
+  std::memcpy(copy, text, length);
+  copy[length] = '\0';
+  // The next entry starts aligned like this one.
+  block->used += (need + alignof(Entry) - 1) & ~(alignof(Entry) - 1);
+  if (block->used > block->size) block->used = block->size;
+  return new (place) Entry{copy, length, hash, next};
 }
 
 const char* QvAtomPool::intern(const char* text, size_t length) {
@@ -81,7 +85,7 @@ const char* QvAtomPool::intern(const char* text, size_t length) {
   for (Entry* e = head; e != nullptr; e = e->next) {
     if (e->hash == h && e->length == length && std::memcmp(e->text, text, length) == 0) return e->text;
   }
-  Entry* entry = new Entry{store(text, length), length, h, head};
+  Entry* entry = store(text, length, h, head);
   head = entry;
   if (++entryCount_ > 2 * static_cast<size_t>(bucketCount_)) grow();
   return entry->text;

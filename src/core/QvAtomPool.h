@@ -49,7 +49,7 @@ class QvAtomPool {
 
   QvAtomPool();
   ~QvAtomPool();
-  char* store(const char* text, size_t length);
+  Entry* store(const char* text, size_t length, uint32_t hash, Entry* next);
   static Block* pushBlock(Block*& head, size_t size);
   // About twice the buckets once the texts outnumber them twice.
   void grow();
