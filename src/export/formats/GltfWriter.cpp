@@ -426,8 +426,16 @@ class GltfBuilder {
     return done = static_cast<int>(model_.lights.size() - 1);
   }
 
+  // A matrix that only moves is written as a translation: 3 numbers in
+  // place of 16, which counts when a LOOP places 10^5 copies of a mesh.
   static void setMatrix(tinygltf::Node& node, const Matrix4& matrix) {
     if (matrix == identityMatrix()) return;
+    Matrix4 moved = identityMatrix();
+    for (int k = 12; k < 15; ++k) moved[static_cast<size_t>(k)] = matrix[static_cast<size_t>(k)];
+    if (matrix == moved) {
+      node.translation.assign(matrix.begin() + 12, matrix.begin() + 15);
+      return;
+    }
     node.matrix.assign(matrix.begin(), matrix.end());
   }
 
