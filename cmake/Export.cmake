@@ -13,7 +13,8 @@ if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/src/export/formats/sources.cmake)
   include(src/export/formats/sources.cmake)
 endif()
 
-add_library(lumeric_export_static STATIC ${LUMERIC_EXPORT_SOURCES} ${LUMERIC_EXPORT_FORMAT_SOURCES})
+add_library(lumeric_export_static STATIC ${LUMERIC_EXPORT_SOURCES} ${LUMERIC_EXPORT_FORMAT_SOURCES}
+  ${LUMERIC_DRIVER_EXPORT_SOURCES})
 target_include_directories(lumeric_export_static PUBLIC include src ${LUMERIC_GENERATED_DIR})
 target_include_directories(lumeric_export_static PRIVATE ${LUMERIC_STB_INCLUDE})
 set_target_properties(lumeric_export_static PROPERTIES POSITION_INDEPENDENT_CODE ON)

@@ -13,12 +13,12 @@ target_compile_definitions(lumeric_export_static PRIVATE LUMERIC_VERSION="${PROJ
 # Linked into the shared library too.
 set_target_properties(lumeric_export_static PROPERTIES POSITION_INDEPENDENT_CODE ON)
 
-add_library(lumeric_export SHARED src/export/formats/ExportLibrary.cpp)
+add_library(lumeric_export SHARED src/driver/ExportLibrary.cpp)
 target_compile_definitions(lumeric_export PRIVATE LUMERIC_BUILDING_LIBRARY)
 target_link_libraries(lumeric_export PRIVATE lumeric_export_static lumeric_core m)
 set_target_properties(lumeric_export PROPERTIES
   CXX_VISIBILITY_PRESET hidden
   VISIBILITY_INLINES_HIDDEN ON
-  LINK_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/src/export/formats/exports.map)
+  LINK_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/src/driver/exporter.map)
 target_link_options(lumeric_export PRIVATE
-  -Wl,--version-script=${CMAKE_CURRENT_SOURCE_DIR}/src/export/formats/exports.map -Wl,--no-undefined)
+  -Wl,--version-script=${CMAKE_CURRENT_SOURCE_DIR}/src/driver/exporter.map -Wl,--no-undefined)

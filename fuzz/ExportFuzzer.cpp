@@ -4,7 +4,7 @@
 
 #include "FuzzHarness.h"
 #include "core/RunState.h"
-#include "export/SceneExport.h"
+#include "driver/ExportPipeline.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   const std::string text(reinterpret_cast<const char*>(data), size);

@@ -13,7 +13,7 @@
 #include "core/OutputFile.h"
 #include "core/RunState.h"
 #include "driver/Translation.h"
-#include "export/formats/ExportRun.h"
+#include "driver/ExportRun.h"
 #include "lumeric/lumeric.h"
 
 #ifndef LUMERIC_VERSION

@@ -8,7 +8,6 @@
 #include <unordered_map>
 
 #include "core/FileAccess.h"
-#include "driver/PlainScene.h"
 #include "export/FaceSets.h"
 #include "export/FieldValues.h"
 #include "export/Matrices.h"
@@ -180,8 +179,13 @@ bool isUrl(const std::string& name) {
 }  // namespace
 
 SceneTraversal::SceneTraversal(ExportScene& scene, ExportMessages& messages, const ExportOptions& options,
-                               const std::string& fileName)
-    : scene_(scene), messages_(messages), options_(options), materials_(scene), textures_(scene, messages) {
+                               const std::string& fileName, InlineReader readInline)
+    : scene_(scene),
+      messages_(messages),
+      options_(options),
+      readInline_(std::move(readInline)),
+      materials_(scene),
+      textures_(scene, messages) {
   directories_.push_back(directoryOf(fileName));
 }
 
@@ -547,7 +551,7 @@ void SceneTraversal::visitInline(QvWWWInline& node, TraversalState& state) {
     if (FILE* file = openForReading(path.c_str(), errorNumber)) {
       inlineNames_.push_back(path);
       scene_.filesRead.push_back(path);
-      root = readPlainNodeInRun(file, inlineNames_.back().c_str());
+      root = readInline_(file, inlineNames_.back().c_str());
       std::fclose(file);
     }
     known = inlineRoots_.emplace(path, root).first;

@@ -6,6 +6,7 @@
 #ifndef LUMERIC_EXPORT_SCENETRAVERSAL_H
 #define LUMERIC_EXPORT_SCENETRAVERSAL_H
 
+#include <cstdio>
 #include <deque>
 #include <functional>
 #include <map>
@@ -19,7 +20,7 @@
 #include "export/ExportMessages.h"
 #include "export/ExportScene.h"
 #include "export/MaterialBinding.h"
-#include "export/SceneExport.h"
+#include "export/ExportOptions.h"
 #include "export/ShapeContext.h"
 #include "export/Textures.h"
 #include "export/TraversalState.h"
@@ -34,10 +35,14 @@ enum class NodeKind : int;
 
 class SceneTraversal {
  public:
+  // Reads an inlined file's root node into the run the tree belongs to
+  // (the tree's owner keeps it); null when nothing could be read.
+  using InlineReader = std::function<QvNode*(FILE* file, const char* name)>;
+
   // `fileName` is the file the tree was read from: inlined files and
   // textures are found relative to its directory.
   SceneTraversal(ExportScene& scene, ExportMessages& messages, const ExportOptions& options,
-                 const std::string& fileName);
+                 const std::string& fileName, InlineReader readInline);
   void traverse(QvNode* root);
 
  private:
@@ -68,6 +73,7 @@ class SceneTraversal {
   ExportScene& scene_;
   ExportMessages& messages_;
   ExportOptions options_;
+  InlineReader readInline_;
   MaterialTable materials_;
   TextureLoader textures_;
   // The directory of the file being traversed (empty or ending in "/").

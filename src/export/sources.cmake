@@ -6,7 +6,6 @@ set(LUMERIC_EXPORT_SOURCES
   src/export/MeshBuilder.cpp
   src/export/Normals.cpp
   src/export/Primitives.cpp
-  src/export/SceneExport.cpp
   src/export/SceneTraversal.cpp
   src/export/Tessellator.cpp
   src/export/TextureCoordinates.cpp

@@ -9,7 +9,7 @@
 #include <string>
 
 #include "export/ExportScene.h"
-#include "export/SceneExport.h"
+#include "driver/ExportPipeline.h"
 #include "support/RecordingView.h"
 #include "support/SceneRunner.h"
 

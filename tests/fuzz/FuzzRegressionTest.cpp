@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "core/RunState.h"
-#include "export/SceneExport.h"
+#include "driver/ExportPipeline.h"
 #include "support/SceneRunner.h"
 
 namespace lumeric {

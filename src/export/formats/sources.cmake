@@ -1,9 +1,7 @@
-# The format writers of the exporter and what runs them.  ExportLibrary.cpp
-# (the exported entry point) is built into liblumeric_export.so only.
+# The format writers of the exporter and what writes their files.
 set(LUMERIC_EXPORT_FORMAT_SOURCES
   src/export/formats/ExportFiles.cpp
   src/export/formats/ExportFormat.cpp
-  src/export/formats/ExportRun.cpp
   src/export/formats/ExportText.cpp
   src/export/formats/GltfWriter.cpp
   src/export/formats/MatrixParts.cpp

@@ -2,7 +2,7 @@
 #include <exception>
 #include <string>
 
-#include "export/formats/ExportRun.h"
+#include "driver/ExportRun.h"
 #include "lumeric/export.h"
 
 using lumeric::ExportFormat;

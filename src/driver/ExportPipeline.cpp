@@ -1,4 +1,4 @@
-#include "export/SceneExport.h"
+#include "driver/ExportPipeline.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -62,7 +62,7 @@ void buildPlainExportScene(FILE* text, const char* path, const RunLimits& limits
   ExportMessages messages(view);
   const std::string confinedTo = limits.confine ? resolvedDirectoryOf(path) : std::string();
   try {
-    SceneTraversal traversal(scene, messages, options, path);
+    SceneTraversal traversal(scene, messages, options, path, readPlainNodeInRun);
     readPlainScene(text, path, limits, confinedTo.c_str(), [&](QvNode* root) { traversal.traverse(root); });
   } catch (const std::exception&) {
     scene = ExportScene();

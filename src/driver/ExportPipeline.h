@@ -1,26 +1,20 @@
 // From a scene file to the scene an export writes: the scene is translated
 // as usual into memory, the plain VRML 1.0 text is read back with the
 // library's own reader, and a traversal of that plain tree applies every
-// rule that decides what a viewer shows.
-#ifndef LUMERIC_EXPORT_SCENEEXPORT_H
-#define LUMERIC_EXPORT_SCENEEXPORT_H
+// rule that decides what a viewer shows.  Compiled into the exporter's
+// library only, like the other export files of the driver.
+#ifndef LUMERIC_DRIVER_EXPORTPIPELINE_H
+#define LUMERIC_DRIVER_EXPORTPIPELINE_H
 
 #include <cstdio>
 
 #include "core/RunState.h"
 #include "driver/Translation.h"
+#include "export/ExportOptions.h"
 #include "export/ExportScene.h"
 #include "lumeric/lumeric.h"
 
 namespace lumeric {
-
-struct ExportOptions {
-  // Segments around a curved primitive; 0: as the scene's Complexity says.
-  int tessellation = 0;
-  // Nodes the traversal may visit (each USE visits its subtree again);
-  // beyond it the rest of the scene is left out with a warning.
-  long maxVisits = 10000000;
-};
 
 // Translates `inputPath` (messages to `view`, `additions` applied as the
 // command line gives them) and fills `scene` with what the translation
@@ -37,4 +31,4 @@ void buildPlainExportScene(FILE* text, const char* path, const RunLimits& limits
 
 }  // namespace lumeric
 
-#endif  // LUMERIC_EXPORT_SCENEEXPORT_H
+#endif  // LUMERIC_DRIVER_EXPORTPIPELINE_H

@@ -1,13 +1,13 @@
 // One export from a scene file to its output, as the command line and the
 // exported entry point run it.
-#ifndef LUMERIC_EXPORT_FORMATS_EXPORTRUN_H
-#define LUMERIC_EXPORT_FORMATS_EXPORTRUN_H
+#ifndef LUMERIC_DRIVER_EXPORTRUN_H
+#define LUMERIC_DRIVER_EXPORTRUN_H
 
 #include <cstdio>
 #include <string>
 
 #include "export/ExportFormat.h"
-#include "export/SceneExport.h"
+#include "driver/ExportPipeline.h"
 #include "lumeric/lumeric.h"
 
 namespace lumeric {
@@ -32,4 +32,4 @@ int runExport(const ExportRequest& request, CReportErrorView* view);
 
 }  // namespace lumeric
 
-#endif  // LUMERIC_EXPORT_FORMATS_EXPORTRUN_H
+#endif  // LUMERIC_DRIVER_EXPORTRUN_H

@@ -1,4 +1,4 @@
-#include "export/formats/ExportRun.h"
+#include "driver/ExportRun.h"
 
 #include <string>
 
