@@ -23,27 +23,15 @@ import tempfile
 import time
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
-from generators import BALLS, balls_vlm  # noqa: E402
-
-
-def measure(command, cwd):
-    """Processor seconds, wall seconds, peak resident MiB and status of one run."""
-    # The peak of a child is only known for all children together, so each
-    # run goes through /usr/bin/time, which reports its own child's.
-    report = os.path.join(cwd, "time.txt")
-    start = time.perf_counter()
-    code = subprocess.call(["/usr/bin/time", "-f", "%U %S %M", "-o", report, *command], cwd=cwd,
-                           stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-    wall = time.perf_counter() - start
-    with open(report) as text:
-        user, system, peak = text.read().split()[-3:]
-    return float(user) + float(system), wall, int(peak) / 1024.0, code
+from generators import BALLS, balls_vlm, measure  # noqa: E402
 
 
 def best(command, cwd, repeat):
+    """Least processor seconds, shortest wall seconds, largest peak MiB and
+    the first failing status of `repeat` runs."""
     runs = [measure(command, cwd) for _ in range(repeat)]
-    failed = [r[3] for r in runs if r[3] != 0]
-    return min(r[0] for r in runs), min(r[1] for r in runs), max(r[2] for r in runs), failed[0] if failed else 0
+    failed = [r[2] for r in runs if r[2] != 0]
+    return min(r[3] for r in runs), min(r[0] for r in runs), max(r[1] for r in runs), failed[0] if failed else 0
 
 
 def main():

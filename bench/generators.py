@@ -67,16 +67,18 @@ def bonds_vlm(n):
 
 
 def measure(command, cwd):
-    """Wall seconds, peak resident MiB and exit status of one run."""
-    # /usr/bin/time gives the peak; its own seconds have two decimals only.
+    """Wall seconds, peak resident MiB, exit status and processor seconds
+    (user and system) of one run."""
+    # /usr/bin/time gives the peak and the processor time; its own seconds
+    # have two decimals only.
     report = os.path.join(cwd, "time.txt")
     start = time.perf_counter()
-    code = subprocess.call(["/usr/bin/time", "-f", "%M", "-o", report, *command], cwd=cwd,
+    code = subprocess.call(["/usr/bin/time", "-f", "%U %S %M", "-o", report, *command], cwd=cwd,
                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     seconds = time.perf_counter() - start
     with open(report) as text:
-        fields = text.read().split()
-    return seconds, int(fields[-1]) / 1024.0, code
+        user, system, peak = text.read().split()[-3:]
+    return seconds, int(peak) / 1024.0, code, float(user) + float(system)
 
 
 def best(command, cwd, repeat):

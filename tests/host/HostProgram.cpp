@@ -9,36 +9,16 @@
 
 #include "lumeric/lumeric.h"
 
+#include "host/HostChecks.h"
+
 namespace {
 
-class CollectingView : public CReportErrorView {
- public:
-  int post(const char* text, int flag) override {
-    messages.push_back(std::string(flag ? "error: " : "") + text);
-    return 0;
-  }
-  std::vector<std::string> messages;
-};
+using host::CollectingView;
+using host::readAll;
 
-int failures = 0;
+host::Checks checks("host program");
 
-void expect(bool ok, const char* what) {
-  if (!ok) {
-    std::fprintf(stderr, "host program: FAILED: %s\n", what);
-    ++failures;
-  }
-}
-
-std::string readAll(const char* path) {
-  std::string text;
-  if (FILE* file = std::fopen(path, "rb")) {
-    char buffer[4096];
-    size_t got;
-    while ((got = std::fread(buffer, 1, sizeof buffer, file)) > 0) text.append(buffer, got);
-    std::fclose(file);
-  }
-  return text;
-}
+void expect(bool ok, const std::string& what) { checks.expect(ok, what); }
 
 void writeAll(const char* path, const char* text) {
   if (FILE* file = std::fopen(path, "wb")) {
@@ -123,6 +103,5 @@ int main(int argc, char** argv) {
              warned.messages[0] == "File \"host_warn.wrl\" Line 2: Warning: Unknown \"Foo\" node found",
          "gWarn 2 enables the unknown-node warning, posted with flag 0");
 
-  if (failures == 0) std::printf("host program: ok\n");
-  return failures == 0 ? 0 : 1;
+  return checks.result();
 }

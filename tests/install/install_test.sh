@@ -83,14 +83,14 @@ unset PKG_CONFIG_PATH
 pc_flags=$("$pkg_config" --cflags --libs lumeric) || fail "pkg-config does not know lumeric"
 case "$pc_flags" in *"$prefix"*) ;; *) fail "pkg-config flags '$pc_flags' do not point into the prefix" ;; esac
 # shellcheck disable=SC2086 # the flags are words
-"$cxx" -std=c++17 $flags "$host_source" -o "$work/host_by_pkg_config" $pc_flags ||
+"$cxx" -std=c++17 $flags -I"$tests_dir" "$host_source" -o "$work/host_by_pkg_config" $pc_flags ||
   fail "building with pkg-config"
 run_host "$work/host_by_pkg_config" pkg-config
 
 pc_flags=$("$pkg_config" --cflags --libs lumeric-export) || fail "pkg-config does not know lumeric-export"
 case "$pc_flags" in *"$prefix"*) ;; *) fail "pkg-config flags '$pc_flags' do not point into the prefix" ;; esac
 # shellcheck disable=SC2086 # the flags are words
-"$cxx" -std=c++17 $flags "$export_host_source" -o "$work/export_host_by_pkg_config" $pc_flags ||
+"$cxx" -std=c++17 $flags -I"$tests_dir" "$export_host_source" -o "$work/export_host_by_pkg_config" $pc_flags ||
   fail "building the exporter's host with pkg-config"
 run_host "$work/export_host_by_pkg_config" pkg-config-export
 

@@ -8,36 +8,16 @@
 
 #include "lumeric/export.h"
 
+#include "host/HostChecks.h"
+
 namespace {
 
-class CollectingView : public CReportErrorView {
- public:
-  int post(const char* text, int flag) override {
-    messages.push_back(std::string(flag ? "error: " : "") + text);
-    return 0;
-  }
-  std::vector<std::string> messages;
-};
+using host::CollectingView;
+using host::readAll;
 
-int failures = 0;
+host::Checks checks("export host program");
 
-void expect(bool ok, const std::string& what) {
-  if (!ok) {
-    std::fprintf(stderr, "export host program: FAILED: %s\n", what.c_str());
-    ++failures;
-  }
-}
-
-std::string readAll(const std::string& path) {
-  std::string text;
-  if (FILE* file = std::fopen(path.c_str(), "rb")) {
-    char buffer[4096];
-    size_t got;
-    while ((got = std::fread(buffer, 1, sizeof buffer, file)) > 0) text.append(buffer, got);
-    std::fclose(file);
-  }
-  return text;
-}
+void expect(bool ok, const std::string& what) { checks.expect(ok, what); }
 
 bool exists(const std::string& path) {
   FILE* file = std::fopen(path.c_str(), "rb");
@@ -99,6 +79,5 @@ int main(int argc, char** argv) {
   expect(!exists("host.fbx") && !exists("host-missing.glb"), "failed calls write no file");
   expect(ExportVRMLLumeric(scene, "host-quiet.stl", nullptr, nullptr) == 0, "a null view is allowed");
 
-  if (failures == 0) std::printf("export host program: ok\n");
-  return failures == 0 ? 0 : 1;
+  return checks.result();
 }

@@ -30,7 +30,7 @@ gtest_discover_tests(lumeric_export_format_tests DISCOVERY_MODE PRE_TEST
 
 # The exporter's shared library seen from a host program, and its exports.
 add_executable(lumeric_export_host_program export/formats/ExportHostProgram.cpp)
-target_include_directories(lumeric_export_host_program PRIVATE ${PROJECT_SOURCE_DIR}/include)
+target_include_directories(lumeric_export_host_program PRIVATE ${PROJECT_SOURCE_DIR}/include ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(lumeric_export_host_program PRIVATE lumeric_export)
 add_test(NAME export.host_program
   COMMAND lumeric_export_host_program ${CMAKE_CURRENT_SOURCE_DIR}/host/host_scene.vlm
