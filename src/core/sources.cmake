@@ -1,6 +1,5 @@
 set(LUMERIC_CORE_SOURCES
   src/core/AtomKeyedTable.cpp
-  src/core/CharacterClasses.cpp
   src/core/FileAccess.cpp
   src/core/NumberText.cpp
   src/core/OutputFile.cpp

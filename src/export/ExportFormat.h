@@ -2,6 +2,8 @@
 #ifndef LUMERIC_EXPORT_EXPORTFORMAT_H
 #define LUMERIC_EXPORT_EXPORTFORMAT_H
 
+#include <cstdio>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -17,9 +19,14 @@ bool exportFormatOfPath(const std::string& path, ExportFormat& format);
 // One file of an export: the main file first, companions (an OBJ's
 // material library, a glTF's buffer) after it.  `path` of a companion is
 // the main path with its own extension.
+// A file is either held whole in `bytes` or, when it may be far larger
+// than the scene (STL and OBJ place every copy of a mesh in world
+// coordinates), written piece by piece by `stream`, which returns 0 or the
+// error number of a failed write.
 struct ExportedFile {
   std::string path;
   std::string bytes;
+  std::function<int(FILE*)> stream = nullptr;
 };
 using ExportedFiles = std::vector<ExportedFile>;
 

@@ -83,6 +83,9 @@ const NodeClassEntry kStandardClasses[] = {
 
 }  // namespace
 
-QvNode* createStandardNode(const char* className) { return createFromTable(kStandardClasses, className); }
+QvNode* createStandardNode(const char* className) {
+  static const NodeClassIndex index(kStandardClasses);
+  return index.create(className);
+}
 
 }  // namespace lumeric

@@ -2,7 +2,9 @@
 #ifndef LUMERIC_SCENE_NODECLASSTABLE_H
 #define LUMERIC_SCENE_NODECLASSTABLE_H
 
-#include <cstring>
+#include <cstddef>
+#include <string_view>
+#include <unordered_map>
 
 namespace lumeric {
 
@@ -25,14 +27,24 @@ constexpr NodeClassEntry classEntry() {
   return {Node::kClassName, createNodeOf<Node>};
 }
 
-// A new node of the class named `name` (compared exactly), or null.
-template <size_t N>
-QvNode* createFromTable(const NodeClassEntry (&table)[N], const char* name) {
-  for (const NodeClassEntry& entry : table) {
-    if (std::strcmp(entry.name, name) == 0) return entry.create();
+// The rows of a table by name, for the reader, which asks for a class at
+// every node it reads.
+class NodeClassIndex {
+ public:
+  template <size_t N>
+  explicit NodeClassIndex(const NodeClassEntry (&table)[N]) {
+    for (const NodeClassEntry& entry : table) creators_.emplace(entry.name, entry.create);
   }
-  return nullptr;
-}
+
+  // A new node of the class named `name` (compared exactly), or null.
+  QvNode* create(const char* name) const {
+    auto found = creators_.find(name);
+    return found == creators_.end() ? nullptr : found->second();
+  }
+
+ private:
+  std::unordered_map<std::string_view, QvNode* (*)()> creators_;
+};
 
 }  // namespace lumeric
 

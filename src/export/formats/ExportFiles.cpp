@@ -1,6 +1,7 @@
 #include "export/formats/ExportFiles.h"
 
 #include <cerrno>
+#include <cstdlib>
 #include <memory>
 #include <string>
 #include <vector>
@@ -24,7 +25,35 @@ int writeBytes(const std::string& bytes, FILE* stream) {
   return 0;
 }
 
+int writeContent(const ExportedFile& file, FILE* stream) {
+  return file.stream ? file.stream(stream) : writeBytes(file.bytes, stream);
+}
+
 }  // namespace
+
+int SpillingText::spill(bool all) {
+  if (error_ != 0) {
+    text_.clear();
+    return error_;
+  }
+  if (text_.size() < kPiece && !all) return 0;
+  error_ = writeBytes(text_, stream_);
+  text_.clear();
+  return error_;
+}
+
+std::string contentOf(const ExportedFile& file) {
+  if (!file.stream) return file.bytes;
+  char* text = nullptr;
+  size_t size = 0;
+  FILE* stream = open_memstream(&text, &size);
+  if (stream == nullptr) return std::string();
+  file.stream(stream);
+  std::fclose(stream);
+  std::string content(text, size);
+  std::free(text);
+  return content;
+}
 
 bool writeExportedFiles(const ExportedFiles& files, ExportMessages& messages) {
   std::vector<std::unique_ptr<OutputFile>> outputs;
@@ -36,7 +65,7 @@ bool writeExportedFiles(const ExportedFiles& files, ExportMessages& messages) {
       messages.error("Could not open " + file.path + " for writing - Error # " + std::to_string(errorNumber));
       return false;  // the outputs opened so far are abandoned
     }
-    errorNumber = writeBytes(file.bytes, stream);
+    errorNumber = writeContent(file, stream);
     if (errorNumber == 0 && std::fflush(stream) != 0) errorNumber = errno != 0 ? errno : EIO;
     if (errorNumber != 0) {
       messages.error(writeFailure(file.path, errorNumber));
@@ -56,7 +85,7 @@ bool writeExportedFiles(const ExportedFiles& files, ExportMessages& messages) {
 
 bool writeExportToStream(const ExportedFiles& files, FILE* stream, ExportMessages& messages) {
   if (files.empty()) return true;
-  int errorNumber = writeBytes(files.front().bytes, stream);
+  int errorNumber = writeContent(files.front(), stream);
   errno = 0;
   if (errorNumber == 0 && (std::fflush(stream) != 0 || std::ferror(stream))) errorNumber = errno != 0 ? errno : EIO;
   if (errorNumber == 0) return true;

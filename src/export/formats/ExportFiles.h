@@ -22,6 +22,28 @@ bool writeExportedFiles(const ExportedFiles& files, ExportMessages& messages);
 // "Could not write standard output - Error # N".
 bool writeExportToStream(const ExportedFiles& files, FILE* stream, ExportMessages& messages);
 
+// The whole content of `file`, streamed or not (for tests and small
+// files).
+std::string contentOf(const ExportedFile& file);
+
+// Text written to a stream in pieces of about a megabyte: a writer appends
+// to `text()` and calls `spill()` now and then.
+class SpillingText {
+ public:
+  explicit SpillingText(FILE* stream) : stream_(stream) {}
+  std::string& text() { return text_; }
+  // Writes the text out once it holds a piece (or, with `all`, whatever it
+  // holds).  Returns 0 or the error number of the first failed write;
+  // after a failure nothing more is written.
+  int spill(bool all = false);
+
+ private:
+  static constexpr size_t kPiece = 1 << 20;
+  FILE* stream_;
+  std::string text_;
+  int error_ = 0;
+};
+
 }  // namespace lumeric
 
 #endif  // LUMERIC_EXPORT_FORMATS_EXPORTFILES_H

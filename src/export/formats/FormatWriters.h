@@ -3,7 +3,8 @@
 // ("-": standard output, where a format writes no companion file).  Nothing
 // is written to disk here; writeExportedFiles (ExportFiles.h) does that.
 // Each returns false, with an error posted, when the scene cannot be written
-// in its format.
+// in its format.  A streamed file (STL, OBJ) reads the scene as it is
+// written: the scene must outlive `files`.
 #ifndef LUMERIC_EXPORT_FORMATS_FORMATWRITERS_H
 #define LUMERIC_EXPORT_FORMATS_FORMATWRITERS_H
 

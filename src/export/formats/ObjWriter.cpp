@@ -5,9 +5,13 @@
 // texture transform is applied to the texture coordinates, lines are "l"
 // and points "p".  A texture is written beside the OBJ as
 // NAME-textureN.png (or .jpg) and named by the material's map_Kd.  On
-// standard output there are no companions and no mtllib line.
+// standard output there are no companions and no mtllib line.  The OBJ is
+// streamed to its target (ExportFiles.h).
 #include <map>
+#include <memory>
+#include <vector>
 
+#include "export/formats/ExportFiles.h"
 #include "export/formats/ExportText.h"
 #include "export/formats/FormatWriters.h"
 #include "export/formats/WorldPlacement.h"
@@ -19,91 +23,118 @@ namespace {
 class ObjBuilder {
  public:
   ObjBuilder(const ExportScene& scene, const std::string& path, ExportMessages& messages)
-      : scene_(scene), path_(path), messages_(messages), toStandardOutput_(path == "-"), textures_(scene, path) {}
+      : scene_(scene), path_(path), toStandardOutput_(path == "-"), textures_(scene, path) {
+    plan(messages);
+  }
 
-  void build(ExportedFiles& files) {
-    obj_ = "# " + generatorName() + "\n";
-    mtl_ = obj_;
-    const std::string mtlPath = companionPath(path_, ".mtl");
-    if (!toStandardOutput_) obj_ += "mtllib " + baseName(mtlPath) + "\n";
-    for (const ExportNode& node : scene_.nodes) {
-      if (node.mesh >= 0 && static_cast<size_t>(node.mesh) < scene_.meshes.size()) addObject(node);
-    }
-    files.push_back(ExportedFile{path_, std::move(obj_)});
-    if (toStandardOutput_) return;
-    files.push_back(ExportedFile{mtlPath, std::move(mtl_)});
-    textures_.appendTo(files);
+  // The OBJ streamed (it holds every copy of a mesh in world coordinates,
+  // so it may be far larger than the scene), the material library and the
+  // textures whole.  The builder lives as long as the files.
+  static void build(const std::shared_ptr<ObjBuilder>& builder, ExportedFiles& files) {
+    files.push_back(ExportedFile{builder->path_, std::string(),
+                                 [builder](FILE* stream) { return builder->stream(stream); }});
+    if (builder->toStandardOutput_) return;
+    files.push_back(ExportedFile{companionPath(builder->path_, ".mtl"), builder->mtl_, nullptr});
+    builder->textures_.appendTo(files);
   }
 
  private:
-  void addObject(const ExportNode& node) {
-    const ExportMesh& mesh = scene_.meshes[node.mesh];
-    const WorldPlacement placement(node.matrix);
-    bool named = false;
-    for (const ExportPrimitive& primitive : mesh.primitives) {
-      if (primitive.indices.empty()) continue;
-      if (!primitiveIsWellFormed(primitive)) {
-        messages_.countWarning("Malformed primitive left out");
-        continue;
+  // A primitive to write; `first` starts its node's object.
+  struct Planned {
+    const ExportNode* node;
+    const ExportPrimitive* primitive;
+    bool first;
+  };
+
+  // Chooses what is written, with a warning for each primitive left out,
+  // and writes the material library in the order materials are first used.
+  void plan(ExportMessages& messages) {
+    mtl_ = "# " + generatorName() + "\n";
+    for (const ExportNode& node : scene_.nodes) {
+      if (node.mesh < 0 || static_cast<size_t>(node.mesh) >= scene_.meshes.size()) continue;
+      bool first = true;
+      for (const ExportPrimitive& primitive : scene_.meshes[node.mesh].primitives) {
+        if (primitive.indices.empty()) continue;
+        if (!primitiveIsWellFormed(primitive)) {
+          messages.countWarning("Malformed primitive left out");
+          continue;
+        }
+        planned_.push_back(Planned{&node, &primitive, first});
+        first = false;
+        materialName(primitive.material);
       }
-      if (!named) {
-        obj_ += "o " + objectNames_.make(node.name.empty() ? mesh.name : node.name, "object") + "\n";
-        named = true;
-      }
-      addPrimitive(primitive, placement);
     }
+  }
+
+  int stream(FILE* stream) {
+    SpillingText out(stream);
+    obj_ = &out.text();
+    *obj_ = "# " + generatorName() + "\n";
+    if (!toStandardOutput_) *obj_ += "mtllib " + baseName(companionPath(path_, ".mtl")) + "\n";
+    objectNames_ = UniqueNames();
+    positions_ = texCoords_ = normals_ = 0;
+    for (const Planned& p : planned_) {
+      if (p.first) {
+        const ExportNode& node = *p.node;
+        *obj_ += "o " + objectNames_.make(node.name.empty() ? scene_.meshes[node.mesh].name : node.name, "object") + "\n";
+      }
+      addPrimitive(*p.primitive, WorldPlacement(p.node->matrix));
+      if (out.spill() != 0) break;
+    }
+    obj_ = nullptr;
+    return out.spill(true);
   }
 
   void addPrimitive(const ExportPrimitive& primitive, const WorldPlacement& placement) {
     const ExportMaterial& material = sceneMaterial(primitive.material);
     const size_t count = primitive.vertexCount();
     for (size_t v = 0; v < count; ++v) {
-      obj_ += "v";
+      *obj_ += "v";
       for (double c : placement.point(&primitive.positions[v * 3])) appendValue(static_cast<float>(c));
       if (!primitive.colors.empty()) {
         for (int i = 0; i < 3; ++i) appendValue(primitive.colors[v * 4 + i]);
       }
-      obj_ += "\n";
+      *obj_ += "\n";
     }
     const bool textured = !primitive.texCoords.empty();
     for (size_t v = 0; textured && v < count; ++v) {
       const std::array<float, 2> st =
           transformTexCoord(material.textureTransform, primitive.texCoords[v * 2], primitive.texCoords[v * 2 + 1]);
-      obj_ += "vt";
+      *obj_ += "vt";
       appendValue(st[0]);
       appendValue(st[1]);
-      obj_ += "\n";
+      *obj_ += "\n";
     }
     const bool withNormals = !primitive.normals.empty() && primitive.mode == PrimitiveMode::kTriangles;
     for (size_t v = 0; withNormals && v < count; ++v) {
-      obj_ += "vn";
+      *obj_ += "vn";
       for (float c : placement.normal(&primitive.normals[v * 3])) appendValue(c);
-      obj_ += "\n";
+      *obj_ += "\n";
     }
-    obj_ += "usemtl " + materialName(primitive.material) + "\n";
+    *obj_ += "usemtl " + materialName(primitive.material) + "\n";
     switch (primitive.mode) {
       case PrimitiveMode::kTriangles:
         for (size_t t = 0; t < primitive.indices.size() / 3; ++t) {
-          obj_ += "f";
+          *obj_ += "f";
           for (uint32_t corner : triangleCorners(primitive, t, placement.mirrored())) {
             appendCorner(corner, textured, withNormals);
           }
-          obj_ += "\n";
+          *obj_ += "\n";
         }
         break;
       case PrimitiveMode::kLines:
         for (size_t s = 0; s < primitive.indices.size(); s += 2) {
-          obj_ += "l";
+          *obj_ += "l";
           appendCorner(primitive.indices[s], textured, false);
           appendCorner(primitive.indices[s + 1], textured, false);
-          obj_ += "\n";
+          *obj_ += "\n";
         }
         break;
       case PrimitiveMode::kPoints:
         for (uint32_t point : primitive.indices) {
-          obj_ += "p";
+          *obj_ += "p";
           appendCorner(point, false, false);
-          obj_ += "\n";
+          *obj_ += "\n";
         }
         break;
     }
@@ -113,20 +144,20 @@ class ObjBuilder {
   }
 
   void appendValue(float value) {
-    obj_ += ' ';
-    appendNumber(obj_, value);
+    *obj_ += ' ';
+    appendNumber(*obj_, value);
   }
 
   // " v", " v/vt", " v//vn" or " v/vt/vn", numbered from 1 across the file.
   void appendCorner(uint32_t index, bool textured, bool withNormals) {
-    obj_ += ' ';
-    appendInteger(obj_, positions_ + index + 1);
+    *obj_ += ' ';
+    appendInteger(*obj_, positions_ + index + 1);
     if (!textured && !withNormals) return;
-    obj_ += '/';
-    if (textured) appendInteger(obj_, texCoords_ + index + 1);
+    *obj_ += '/';
+    if (textured) appendInteger(*obj_, texCoords_ + index + 1);
     if (withNormals) {
-      obj_ += '/';
-      appendInteger(obj_, normals_ + index + 1);
+      *obj_ += '/';
+      appendInteger(*obj_, normals_ + index + 1);
     }
   }
 
@@ -171,9 +202,9 @@ class ObjBuilder {
 
   const ExportScene& scene_;
   const std::string path_;
-  ExportMessages& messages_;
   const bool toStandardOutput_;
-  std::string obj_;
+  std::vector<Planned> planned_;
+  std::string* obj_ = nullptr;  // while streaming
   std::string mtl_;
   TextureFiles textures_;
   UniqueNames objectNames_;
@@ -188,7 +219,7 @@ class ObjBuilder {
 }  // namespace
 
 bool writeObj(const ExportScene& scene, const std::string& path, ExportedFiles& files, ExportMessages& messages) {
-  ObjBuilder(scene, path, messages).build(files);
+  ObjBuilder::build(std::make_shared<ObjBuilder>(scene, path, messages), files);
   return true;
 }
 

@@ -39,8 +39,14 @@ const NodeClassEntry kExtensionNodes[] = {
 
 }  // namespace
 
-QvNode* createExtensionNode(const char* className) { return createFromTable(kExtensionNodes, className); }
+QvNode* createExtensionNode(const char* className) {
+  static const NodeClassIndex index(kExtensionNodes);
+  return index.create(className);
+}
 
-QvNode* createStatement(const char* keyword) { return createFromTable(kStatements, keyword); }
+QvNode* createStatement(const char* keyword) {
+  static const NodeClassIndex index(kStatements);
+  return index.create(keyword);
+}
 
 }  // namespace lumeric

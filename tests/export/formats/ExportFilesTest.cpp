@@ -94,5 +94,36 @@ TEST(ExportFilesTest, StreamGetsTheMainFileOnly) {
   EXPECT_EQ(view.messages()[0].text, "Could not write standard output - Error # 28");
 }
 
+// A streamed file of three and a half pieces: "0123456789" repeated.
+ExportedFile streamedFile(const std::string& path) {
+  return ExportedFile{path, std::string(), [](FILE* stream) {
+                        SpillingText out(stream);
+                        for (int i = 0; i < 350000; ++i) {
+                          out.text() += "0123456789";
+                          if (out.spill() != 0) break;
+                        }
+                        return out.spill(true);
+                      }};
+}
+
+TEST(ExportFilesTest, StreamedFileIsWrittenInPiecesAndReplacesItsTargetWhole) {
+  ScratchDir dir;
+  dir.write("big.stl", "old");
+  RecordingView view;
+  ExportMessages messages(&view);
+  const ExportedFiles files{streamedFile(dir.path() + "/big.stl")};
+  EXPECT_TRUE(writeExportedFiles(files, messages));
+  const std::string written = dir.read("big.stl");
+  EXPECT_EQ(written.size(), 3500000u);
+  EXPECT_EQ(written, contentOf(files[0]));
+  EXPECT_EQ(written.compare(3499990, 10, "0123456789"), 0);
+  FILE* full = std::fopen("/dev/full", "w");
+  if (full == nullptr) return;
+  EXPECT_FALSE(writeExportToStream(files, full, messages));
+  std::fclose(full);
+  ASSERT_EQ(view.errorCount(), 1);
+  EXPECT_EQ(view.messages()[0].text, "Could not write standard output - Error # 28");
+}
+
 }  // namespace
 }  // namespace lumeric

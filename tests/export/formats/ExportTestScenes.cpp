@@ -9,6 +9,8 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 
+#include "export/formats/ExportFiles.h"
+
 namespace lumeric {
 
 ExportPrimitive cubePrimitive(int material) {
@@ -204,6 +206,14 @@ std::string gltfValidatorModules() {
     }
   }
   return "";
+}
+
+void holdWhole(ExportedFiles& files) {
+  for (ExportedFile& file : files) {
+    if (!file.stream) continue;
+    file.bytes = contentOf(file);
+    file.stream = nullptr;
+  }
 }
 
 }  // namespace lumeric

@@ -33,6 +33,10 @@ using Triangle = std::array<std::array<double, 3>, 3>;
 // counter-clockwise seen from outside).
 double signedVolume(const std::vector<Triangle>& triangles);
 
+// Reads every streamed content of `files` into its `bytes`, as the tests
+// look at them.
+void holdWhole(ExportedFiles& files);
+
 // Triangles read back from a binary STL file's bytes; `ok` false when the
 // size does not match its count.
 std::vector<Triangle> readStl(const std::string& bytes, bool& ok);

@@ -19,6 +19,7 @@ ExportedFiles writeObjFiles(const ExportScene& scene, const std::string& path, s
   {
     ExportMessages messages(&view);
     EXPECT_TRUE(writeObj(scene, path, files, messages));
+    holdWhole(files);
   }
   if (transcript != nullptr) *transcript = view.transcript();
   return files;

@@ -64,10 +64,12 @@ class OddScenesTest : public ::testing::TestWithParam<ExportFormat> {};
 
 TEST_P(OddScenesTest, WriterKeepsWhatItCanAndCountsTheRest) {
   RecordingView view;
+  const ExportScene scene = oddScene();
   ExportedFiles files;
   {
     ExportMessages messages(&view);
-    ASSERT_TRUE(writeExport(GetParam(), oddScene(), "odd.out", files, messages));
+    ASSERT_TRUE(writeExport(GetParam(), scene, "odd.out", files, messages));
+    holdWhole(files);
   }
   ASSERT_FALSE(files.empty());
   EXPECT_FALSE(files[0].bytes.empty());

@@ -35,8 +35,10 @@ TEST_P(StlPlacementTest, FacetsFaceOutwards) {
   const Placement& placement = GetParam();
   RecordingView view;
   ExportMessages messages(&view);
+  const ExportScene scene = cubesScene({placement.matrix});
   ExportedFiles files;
-  ASSERT_TRUE(writeStl(cubesScene({placement.matrix}), "cube.stl", files, messages));
+  ASSERT_TRUE(writeStl(scene, "cube.stl", files, messages));
+  holdWhole(files);
   ASSERT_EQ(files.size(), 1u);
   bool ok = false;
   const std::vector<Triangle> triangles = readStl(files[0].bytes, ok);
@@ -70,8 +72,10 @@ INSTANTIATE_TEST_SUITE_P(Placements, StlPlacementTest,
 TEST(StlWriterTest, HeaderNamesLumericAndIsNotAscii) {
   RecordingView view;
   ExportMessages messages(&view);
+  const ExportScene scene;
   ExportedFiles files;
-  ASSERT_TRUE(writeStl(ExportScene(), "empty.stl", files, messages));
+  ASSERT_TRUE(writeStl(scene, "empty.stl", files, messages));
+  holdWhole(files);
   ASSERT_EQ(files[0].bytes.size(), 84u);
   EXPECT_EQ(files[0].bytes.compare(0, 8, "lumeric "), 0);
   bool ok = false;
@@ -88,6 +92,7 @@ TEST(StlWriterTest, LinesAndPointsLeftOutWithOneWarning) {
   {
     ExportMessages messages(&view);
     ASSERT_TRUE(writeStl(scene, "cube.stl", files, messages));
+    holdWhole(files);
   }
   bool ok = false;
   EXPECT_EQ(readStl(files[0].bytes, ok).size(), 24u);
@@ -102,6 +107,7 @@ TEST(StlWriterTest, AdmeshReadsTheFacetCount) {
   ExportMessages messages(&view);
   ExportedFiles files;
   ASSERT_TRUE(writeStl(scene, dir.path() + "/cubes.stl", files, messages));
+  holdWhole(files);
   const std::string path = dir.write("cubes.stl", files[0].bytes);
   std::string output;
   ASSERT_EQ(runCommand("admesh '" + path + "'", output), 0) << output;
