@@ -1,14 +1,14 @@
 # The exporter's format writers (src/export/formats/), what they need from
-# Debian (tinygltf, with RapidJSON as its JSON library), and the exporter's shared library
+# Debian (tinygltf, nlohmann-json), and the exporter's shared library
 # liblumeric_export.so, which exports ExportVRMLLumeric and nothing else.
 # Include after cmake/Export.cmake, which defines the exporter's static
 # library lumeric_export_static from its own sources and these
 # (src/export/formats/sources.cmake).
+find_package(nlohmann_json 3 REQUIRED)
 find_path(LUMERIC_TINYGLTF_INCLUDE_DIR tiny_gltf.h REQUIRED)
-# tinygltf includes RapidJSON's "document.h" by its bare name.
-find_path(LUMERIC_RAPIDJSON_INCLUDE_DIR document.h PATH_SUFFIXES rapidjson REQUIRED)
 
-target_include_directories(lumeric_export_static SYSTEM PRIVATE ${LUMERIC_TINYGLTF_INCLUDE_DIR} ${LUMERIC_RAPIDJSON_INCLUDE_DIR})
+target_include_directories(lumeric_export_static SYSTEM PRIVATE ${LUMERIC_TINYGLTF_INCLUDE_DIR})
+target_link_libraries(lumeric_export_static PRIVATE nlohmann_json::nlohmann_json)
 target_compile_definitions(lumeric_export_static PRIVATE LUMERIC_VERSION="${PROJECT_VERSION}")
 # Linked into the shared library too.
 set_target_properties(lumeric_export_static PROPERTIES POSITION_INDEPENDENT_CODE ON)

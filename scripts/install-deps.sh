@@ -16,7 +16,7 @@ root="$(cd "$(dirname "$0")/.." && pwd)"
 profile="${1:-build}"
 
 packages=(cmake g++ make bison pkg-config
-  libglu1-mesa-dev libstb-dev libtinygltf-dev rapidjson-dev)
+  libglu1-mesa-dev libstb-dev libtinygltf-dev nlohmann-json3-dev)
 # Installed without the packages they recommend (Emacs would bring a mail
 # server).
 lean_packages=()

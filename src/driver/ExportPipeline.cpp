@@ -64,6 +64,9 @@ void buildPlainExportScene(FILE* text, const char* path, const RunLimits& limits
   try {
     SceneTraversal traversal(scene, messages, options, path, readPlainNodeInRun);
     readPlainScene(text, path, limits, confinedTo.c_str(), [&](QvNode* root) { traversal.traverse(root); });
+    // A LOOP's copies make many nodes: the writers hold the scene beside
+    // the whole file they make, so it keeps no room to spare.
+    scene.nodes.shrink_to_fit();
   } catch (const std::exception&) {
     scene = ExportScene();
     messages.error("Out of memory");
