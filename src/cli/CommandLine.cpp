@@ -2,6 +2,7 @@
 
 #include <cctype>
 #include <cerrno>
+#include <climits>
 #include <cstdlib>
 #include <cstring>
 
@@ -62,9 +63,16 @@ const char kUsageText[] =
     "                 how messages are printed: plain (the default), gnu or json\n"
     "  --max-evaluations N\n"
     "                 evaluate at most N field references made from inside other\n"
-    "                 evaluations (default 10000000); further references read as 0\n"
+    "                 evaluations (default 10000000), where a result of many\n"
+    "                 numbers counts one for every 16 of them; further references\n"
+    "                 read as 0\n"
     "  --max-nodes N  make at most N nodes by copying (LOOP, SELECT, USE; default\n"
     "                 10000000); the copies made so far are written\n"
+    "  --max-memory SIZE\n"
+    "                 keep copied and computed values (list elements, expression\n"
+    "                 texts, evaluation results) within SIZE bytes, or with a\n"
+    "                 suffix K, M or G (default 1536M); past it no further copies,\n"
+    "                 references or large results are made\n"
     "  --confine      let INCLUDE read and OUTPUT_TO write only regular files in\n"
     "                 INPUT's directory and below it (for scenes from untrusted\n"
     "                 sources)\n"
@@ -141,6 +149,24 @@ bool takeCount(int argc, char** argv, int& i, long& count, std::string& error) {
     error = std::string("option ") + argv[i - 1] + " needs a whole number from 1 up, not \"" + value + "\"";
     return false;
   }
+  return true;
+}
+
+// --max-memory's value: bytes, or with a suffix K, M or G (powers of 1024).
+bool takeSize(int argc, char** argv, int& i, long long& bytes, std::string& error) {
+  std::string value;
+  if (!takeValue(argc, argv, i, value, error)) return false;
+  char* end = nullptr;
+  errno = 0;
+  bytes = std::strtoll(value.c_str(), &end, 10);
+  const char suffix = static_cast<char>(std::toupper(static_cast<unsigned char>(*end)));
+  const int shift = suffix == '\0' ? 0 : suffix == 'K' ? 10 : suffix == 'M' ? 20 : suffix == 'G' ? 30 : -1;
+  const bool whole = end != value.c_str() && (suffix == '\0' || end[1] == '\0');
+  if (!whole || shift < 0 || errno != 0 || bytes < 1 || bytes > (LLONG_MAX >> shift)) {
+    error = "option --max-memory needs a size in bytes, or with a suffix K, M or G, not \"" + value + "\"";
+    return false;
+  }
+  bytes <<= shift;
   return true;
 }
 
@@ -272,6 +298,8 @@ bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& err
         if (!takeCount(argc, argv, i, line.limits.maxEvaluations, error)) return false;
       } else if (arg == "--max-nodes") {
         if (!takeCount(argc, argv, i, line.limits.maxNodes, error)) return false;
+      } else if (arg == "--max-memory") {
+        if (!takeSize(argc, argv, i, line.limits.maxMemory, error)) return false;
       } else if (arg == "--confine") {
         line.limits.confine = true;
       } else if (arg.compare(0, 2, "-W") == 0) {

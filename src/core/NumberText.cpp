@@ -30,8 +30,19 @@ uint64_t roundScaled(uint64_t m, int e, int k) {
   } else {
     denominator <<= -e;
   }
-  Wide quotient = numerator / denominator;
-  Wide twice = (numerator % denominator) * 2;
+  Wide quotient;
+  Wide remainder;
+  if (k >= 0) {
+    // The denominator is a power of two (the common case: numbers below a
+    // million): shifts, not a 128-bit division.
+    const int shift = e >= 0 ? 0 : -e;
+    quotient = numerator >> shift;
+    remainder = numerator - (quotient << shift);
+  } else {
+    quotient = numerator / denominator;
+    remainder = numerator % denominator;
+  }
+  const Wide twice = remainder * 2;
   if (twice > denominator || (twice == denominator && (quotient & 1) != 0)) ++quotient;
   return static_cast<uint64_t>(quotient);
 }
@@ -49,7 +60,9 @@ int formatModerateNumber(char* buffer, double value) {
   const uint64_t m = static_cast<uint64_t>(std::ldexp(fraction, 53));
   const int e = binaryExponent - 53;
 
-  int exponent = static_cast<int>(std::floor(std::log10(magnitude)));
+  // The decimal exponent from the binary one (log10(2) ~ 78913 / 2^18):
+  // never above the true one and at most one below it.
+  int exponent = ((binaryExponent - 1) * 78913) >> 18;
   uint64_t digits = roundScaled(m, e, 5 - exponent);
   // The estimate of the decimal exponent may be one off, and rounding may
   // carry into a seventh digit; both show in the count of digits.

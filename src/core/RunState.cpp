@@ -34,7 +34,11 @@ void RunState::reset() {
   limits = RunLimits();
   confinedTo.clear();
   nestedEvaluations = 0;
+  valueWork = 0;
+  workBudgetSpent = false;
   evaluationBudgetSpent = false;
+  valueBytes = 0;
+  memoryBudgetSpent = false;
   copiedNodes = 0;
   nodeBudgetSpent = false;
   sceneMayChooseOutput = true;

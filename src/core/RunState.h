@@ -39,6 +39,10 @@ struct RunLimits {
   long maxEvaluations = 10000000;
   // Nodes made by copying (LOOP, SELECT, USE).
   long maxNodes = 10000000;
+  // Bytes of copied and computed values: the elements of list fields, the
+  // texts of field expressions and the terms of evaluations.
+  long long maxMemory = kDefaultMaxMemory;
+  static constexpr long long kDefaultMaxMemory = 1536LL << 20;
   // INCLUDE reads and OUTPUT_TO writes only regular files inside the
   // directory of the input.
   bool confine = false;
@@ -94,10 +98,19 @@ class RunState {
   // With limits.confine: the resolved directory of the input, inside which
   // files may be read and written.
   std::string confinedTo;
-  // Evaluations started from inside other evaluations, and whether the
-  // budget's message has been posted.
+  // Evaluations started from inside other evaluations plus the work of
+  // large results (valueWork, one unit per kValuesPerWorkUnit numbers), and
+  // whether the budget's message has been posted.
   long nestedEvaluations = 0;
+  long valueWork = 0;
   bool evaluationBudgetSpent = false;
+  // Whether the work of large results helped spend it: then, as past the
+  // node and memory budgets, no further copy is made.
+  bool workBudgetSpent = false;
+  // Bytes of copied and computed values now alive (limits.maxMemory), and
+  // whether the budget's message has been posted.
+  long long valueBytes = 0;
+  bool memoryBudgetSpent = false;
   // Nodes made by copying, and whether the budget's message has been
   // posted.
   long copiedNodes = 0;

@@ -1,9 +1,14 @@
 #include "expr/FieldReferences.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <string>
+#include <vector>
 
 #include "core/RunState.h"
 #include "core/QvContext.h"
+#include "expr/Term.h"
+#include "expr/TermArena.h"
 #include "expr/TermConversions.h"
 #include "scene/FieldExpression.h"
 #include "scene/QvField.h"
@@ -49,12 +54,44 @@ void reportUnusable(FieldExpression* at, const char* label, const Selection& sel
   }
 }
 
+// `value` alone, the terms made since `mark` released.  A reference that
+// reads one element of a large list evaluates the list whole; the list
+// goes as soon as the element is read, not at the end of the run.
+Term* keepOnly(Term* value, const TermArena::Mark& mark) {
+  TermArena& arena = termArena();
+  if (value == nullptr || !arena.grewPast(mark)) return value;
+  if (StringTerm* string = asString(value)) {
+    if (string->text == nullptr) return value;
+    const std::string text(string->text);
+    arena.release(mark);
+    return StringTerm::make(text.c_str(), text.size());
+  }
+  if (ScalarTerm* scalar = asScalar(value)) {
+    const double number = scalar->value;
+    arena.release(mark);
+    return ScalarTerm::make(number);
+  }
+  if (VectorTerm* vector = asVector(value)) {
+    const std::vector<double> elements(vector->elements, vector->elements + std::max(vector->length, 0));
+    const int32_t length = vector->length;
+    arena.release(mark);
+    VectorTerm* copy = VectorTerm::make(length);
+    std::copy(elements.begin(), elements.end(), copy->elements);
+    return copy;
+  }
+  return value;  // a matrix: a row of a list of rows is a vector
+}
+
 Term* valueOf(QvField* field, const char* label, const Selection& selection, bool plainIsDefined,
               FieldExpression* at) {
   if (field == nullptr) return reportAtExpression(at, "Field %s not found", label);
+  const TermArena::Mark mark = termArena().mark();
   Term* value = field->GetLumericValue(selection.i, selection.j, at);
-  if (value == nullptr) reportUnusable(at, label, selection, plainIsDefined);
-  return value;
+  if (value == nullptr) {
+    reportUnusable(at, label, selection, plainIsDefined);
+    return nullptr;
+  }
+  return selection.count > 0 ? keepOnly(value, mark) : value;
 }
 
 }  // namespace

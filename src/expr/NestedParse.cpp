@@ -1,6 +1,7 @@
 #include "expr/NestedParse.h"
 
 #include "core/RunState.h"
+#include "expr/WorkBudget.h"
 #include "scene/SceneMessages.h"
 
 namespace lumeric {
@@ -17,15 +18,9 @@ bool NestedParse::anyInProgress() { return theRun.parseDepth > 0; }
 
 bool NestedParse::admit(FieldExpression* expression) {
   // Nothing is cached, so references to references can take exponential
-  // work; past the budget no further nested evaluation starts.
-  if (theRun.parseDepth > 0 && ++theRun.nestedEvaluations > theRun.limits.maxEvaluations) {
-    if (theRun.evaluationBudgetSpent) return false;
-    theRun.evaluationBudgetSpent = true;
-    return reportAtExpression(expression,
-                              "Error: More than %ld evaluations of field references - further references "
-                              "read as 0 (the budget is raised with --max-evaluations)",
-                              theRun.limits.maxEvaluations);
-  }
+  // work; past the budget (or past the memory budget) no further nested
+  // evaluation starts.
+  if (theRun.parseDepth > 0 && !admitReference(expression)) return false;
   for (int k = 0; k < theRun.parseDepth; ++k) {
     if (theRun.parsesInProgress[k] == expression) return reportAtExpression(expression, "Error: Circular reference");
   }

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "expr/TermArena.h"
+#include "expr/WorkBudget.h"
 
 namespace lumeric {
 
@@ -17,6 +18,7 @@ T* newTerm(TermKind kind) {
 
 double* newElements(int64_t count) {
   if (count < 1) return nullptr;
+  chargeValues(static_cast<size_t>(count));
   return static_cast<double*>(termArena().allocate(sizeof(double) * static_cast<size_t>(count)));
 }
 
@@ -56,6 +58,7 @@ void VectorTerm::resize(int32_t newLength) {
   if (newLength < 1) {
     elements = nullptr;
   } else {
+    if (newLength > length) chargeValues(static_cast<size_t>(newLength - (length > 0 ? length : 0)));
     elements = static_cast<double*>(
         termArena().reallocate(elements, oldBytes, sizeof(double) * static_cast<size_t>(newLength)));
   }
@@ -76,6 +79,7 @@ void MatrixTerm::resizeRows(int32_t newRows) {
   if (newCount < 1) {
     elements = nullptr;
   } else {
+    if (newCount > oldCount) chargeValues(static_cast<size_t>(newCount - oldCount));
     elements = static_cast<double*>(termArena().reallocate(elements, sizeof(double) * static_cast<size_t>(oldCount),
                                                            sizeof(double) * static_cast<size_t>(newCount)));
   }

@@ -4,6 +4,8 @@
 #include <cstring>
 #include <new>
 
+#include "core/RunState.h"
+
 namespace lumeric {
 
 TermArena& termArena() {
@@ -30,6 +32,8 @@ void* TermArena::allocateSlow(size_t size) {
     if (chunk == nullptr) throw std::bad_alloc();
     chunk->size = kChunkSize;
   }
+  // Terms count against the run's memory budget while they live.
+  theRun.valueBytes += static_cast<long long>(chunk->size);
   chunk->used = size;
   chunk->previous = current_;
   current_ = chunk;
@@ -51,6 +55,7 @@ void* TermArena::reallocate(void* block, size_t oldSize, size_t newSize) {
 }
 
 void TermArena::freeChunk(Chunk* chunk) {
+  theRun.valueBytes -= static_cast<long long>(chunk->size);
   if (chunk->size == kChunkSize && spare_ == nullptr) {
     spare_ = chunk;
   } else {

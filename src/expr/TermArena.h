@@ -36,6 +36,9 @@ class TermArena {
   void* reallocate(void* block, size_t oldSize, size_t newSize);
 
   Mark mark() const { return Mark{current_, current_ == nullptr ? 0 : current_->used}; }
+  // Whether a chunk was added since `mark` was taken (64 KB of terms or
+  // one large term): then releasing to the mark returns memory.
+  bool grewPast(const Mark& mark) const { return current_ != mark.chunk; }
   // Frees everything allocated since `mark` was taken.
   void release(const Mark& mark);
   // Frees everything.

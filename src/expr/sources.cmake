@@ -28,5 +28,6 @@ set(LUMERIC_EXPR_SOURCES
   src/expr/functions/RandomGenerator.cpp
   src/expr/functions/FractalSurfaces.cpp
   src/expr/NestedParse.cpp
+  src/expr/WorkBudget.cpp
   src/expr/Evaluation.cpp
 )

@@ -3,6 +3,8 @@
 #include <cstdlib>
 #include <new>
 
+#include "core/RunState.h"
+
 namespace lumeric {
 
 namespace {
@@ -10,6 +12,10 @@ namespace {
 size_t segmentElements(int segment) { return size_t{1} << segment; }
 
 }  // namespace
+
+size_t ExpressionStore::segmentBytes(int segment) const {
+  return sizeof(FieldExpression) * segmentElements(segment) * static_cast<size_t>(width_);
+}
 
 ExpressionStore::~ExpressionStore() {
   resize(0);
@@ -55,13 +61,14 @@ void ExpressionStore::addSegmentsFor(int count) {
   }
   for (int k = segmentCount_; k < needed; ++k) segments_[k] = nullptr;
   for (int k = segmentCount_; k < needed; ++k) {
-    size_t bytes = sizeof(FieldExpression) * segmentElements(k) * static_cast<size_t>(width_);
+    size_t bytes = segmentBytes(k);
     void* memory = std::malloc(bytes);
     if (memory == nullptr) {
       segmentCount_ = k;
       throw std::bad_alloc();
     }
     segments_[k] = static_cast<FieldExpression*>(memory);
+    theRun.valueBytes += static_cast<long long>(bytes);  // the run's memory budget
   }
   segmentCount_ = needed;
 }
@@ -72,6 +79,7 @@ void ExpressionStore::releaseSegmentsFrom(int count) {
   while (segmentCount_ > 0 && segmentElements(segmentCount_ - 1) - 1 >= static_cast<size_t>(count)) {
     --segmentCount_;
     std::free(segments_[segmentCount_]);
+    theRun.valueBytes -= static_cast<long long>(segmentBytes(segmentCount_));
     segments_[segmentCount_] = nullptr;
   }
   if (segmentCount_ == 0) freeTable();

@@ -46,6 +46,7 @@ class ExpressionStore {
   void addSegmentsFor(int count);
   void releaseSegmentsFrom(int count);
   void freeTable();
+  size_t segmentBytes(int segment) const;
 
   // The table of segments: `firstSegment_` while there is at most one.
   FieldExpression** segments_ = nullptr;

@@ -1,11 +1,13 @@
 #include "scene/CopyBudget.h"
 
 #include "core/RunState.h"
+#include "scene/MemoryBudget.h"
 #include "scene/SceneMessages.h"
 
 namespace lumeric {
 
 bool admitCopy(QvNode* at) {
+  if (theRun.workBudgetSpent || !memoryBudgetHolds(at)) return false;
   if (theRun.copiedNodes < theRun.limits.maxNodes) {
     ++theRun.copiedNodes;
     return true;

@@ -9,8 +9,10 @@ namespace lumeric {
 
 class QvNode;
 
-// Counts one copy made while evaluating `at`.  False when the budget is
-// spent; the first refusal posts the budget's message at `at`.
+// Counts one copy made while evaluating `at`.  False when this budget, the
+// memory budget (MemoryBudget.h) or the evaluation budget with the work of
+// large results in it (expr/WorkBudget.h) is spent; the first refusal posts the
+// budget's message at `at`.
 bool admitCopy(QvNode* at);
 
 }  // namespace lumeric

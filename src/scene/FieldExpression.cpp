@@ -6,6 +6,7 @@
 
 #include "core/QvContext.h"
 #include "core/NumberText.h"
+#include "core/RunState.h"
 #include "scene/QvNode.h"
 #include "scene/SceneMessages.h"
 
@@ -46,7 +47,10 @@ void FieldExpression::moveFrom(FieldExpression& other) {
 }
 
 void FieldExpression::freeText() {
-  if (form() == kHeapForm) std::free(storage_.heap.pointer);
+  if (form() == kHeapForm) {
+    theRun.valueBytes -= static_cast<long long>(std::strlen(storage_.heap.pointer) + 1);
+    std::free(storage_.heap.pointer);
+  }
   clearStorage();
 }
 
@@ -88,6 +92,7 @@ void FieldExpression::setText(const char* text, size_t length) {
   std::memcpy(heap, text, length);
   heap[length] = '\0';
   freeText();
+  theRun.valueBytes += static_cast<long long>(length + 1);  // the run's memory budget
   storage_.heap.pointer = heap;
   storage_.heap.reserved = 0;
   storage_.bytes[kInline - 1] = kHeapForm;

@@ -1,5 +1,6 @@
 set(LUMERIC_SCENE_SOURCES
   src/scene/CopyBudget.cpp
+  src/scene/MemoryBudget.cpp
   src/scene/FieldExpression.cpp
   src/scene/NodeVisit.cpp
   src/scene/QvDeclaredFieldsNode.cpp

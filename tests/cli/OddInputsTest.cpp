@@ -46,5 +46,20 @@ TEST(OddInputs, BudgetOptionsTakeWholeNumbersFromOne) {
   }
 }
 
+TEST(OddInputs, MemoryBudgetTakesASizeWithAnOptionalSuffix) {
+  ScratchDir dir;
+  dir.write("scene.vlm", "#VRML V1.0 ascii\nCube {}\n");
+  for (const char* value : {"0", "-1K", "12X", "", "5KB", "1.5G", "9999999999G", "K"}) {
+    CommandResult run = runLumeric({"--max-memory", value, "-o", "-", "scene.vlm"}, dir.path());
+    EXPECT_EQ(run.status, 2) << value;
+    EXPECT_EQ(run.err, std::string("lumeric: option --max-memory needs a size in bytes, or with a suffix K, M or G, "
+                                   "not \"") + value + "\"\nTry 'lumeric --help' for more information.\n");
+  }
+  for (const char* value : {"1048576", "64k", "1M", "2g"}) {
+    CommandResult run = runLumeric({"--max-memory", value, "-o", "-", "scene.vlm"}, dir.path());
+    EXPECT_EQ(run.status, 0) << value << ": " << run.err;
+  }
+}
+
 }  // namespace
 }  // namespace lumeric

@@ -5,6 +5,7 @@
 
 #include "core/RunState.h"
 #include "expr/TermConversions.h"
+#include "expr/WorkBudget.h"
 #include "expr/functions/FunctionMessages.h"
 #include "expr/functions/RandomGenerator.h"
 
@@ -148,6 +149,7 @@ Term* surfaceData(Term* const* arguments, const VectorTerm* seeds, FieldExpressi
   int cols = truncateToIndex(scalarArgument(arguments, 1));
   if (rows < 1 || cols < 1) rows = cols = 0;
   if (refuseLargeGrid(rows, cols, at)) return nullptr;
+  if (!admitValues(static_cast<size_t>(rows) * cols * 3, at)) return nullptr;
   FractalGrid g{MatrixTerm::make(rows * cols, 3), rows, cols, precisionQuantum * 0.1,
                 scalarArgument(arguments, 2), nullptr, 0};
   if (rows == 0) return g.points;
@@ -174,6 +176,7 @@ Term* fractalSurfaceIndex(Term* const* arguments, FieldExpression* at) {
   const int cols = truncateToIndex(scalarArgument(arguments, 1));
   if (rows < 2 || cols < 2) return VectorTerm::make(0);
   if (refuseLargeGrid(rows, cols, at)) return nullptr;
+  if (!admitValues(static_cast<size_t>(rows - 1) * (cols - 1) * 5, at)) return nullptr;
   VectorTerm* indices = VectorTerm::make(5 * (rows - 1) * (cols - 1));
   double* out = indices->elements;
   for (int i = 0; i + 1 < rows; ++i) {
