@@ -13,6 +13,16 @@ int formatGeneral6(char* buffer, int size, double value);
 // The same through snprintf alone.
 int formatGeneral6ByPrintf(char* buffer, int size, double value);
 
+// Writes the shortest text that reads back as `value` (as the plain
+// std::to_chars does: the fixed or the scientific form, whichever is
+// shorter, fixed on a tie), terminated; returns the length.  `size` is at
+// least 32.
+int formatShortest(char* buffer, int size, double value);
+int formatShortest(char* buffer, int size, float value);
+// The same through snprintf and strtod alone.
+int formatShortestByPrintf(char* buffer, int size, double value);
+int formatShortestByPrintf(char* buffer, int size, float value);
+
 // Reads the well-formed decimal text [begin, end) into `value`, correctly
 // rounded.  False when the text is not one number or its value is beyond
 // the range of doubles (the caller decides what that gives).

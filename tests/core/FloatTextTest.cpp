@@ -51,6 +51,46 @@ TEST(FloatText, BothFormatsGiveTheSameDigits) {
   }
 }
 
+template <typename Number>
+std::string shortest(int (*format)(char*, int, Number), Number value) {
+  char text[32];
+  const int length = format(text, sizeof text, value);
+  EXPECT_EQ(length, static_cast<int>(std::strlen(text)));
+  return text;
+}
+
+// The shortest texts of the export writers: any bit pattern, powers of two
+// (where the values that read back lie unevenly about the value), whole
+// numbers (where the fixed form wins), for doubles and floats.
+TEST(FloatText, BothShortestFormatsGiveTheSameText) {
+  int (*const doubleNative)(char*, int, double) = formatShortest;
+  int (*const doubleFallback)(char*, int, double) = formatShortestByPrintf;
+  int (*const floatNative)(char*, int, float) = formatShortest;
+  int (*const floatFallback)(char*, int, float) = formatShortestByPrintf;
+  uint64_t state = 0x853c49e6748fea9bull;
+  for (int n = 0; n < 60000; ++n) {
+    const uint64_t bits = nextRandom(state);
+    double d;
+    switch (n % 4) {
+      case 0: std::memcpy(&d, &bits, sizeof d); break;
+      case 1: d = std::ldexp(1.0, static_cast<int>(bits % 2000) - 1000); break;
+      case 2: d = static_cast<double>(static_cast<int64_t>(bits % 100000000) - 50000000) * std::pow(10.0, static_cast<int>(bits >> 58) - 8); break;
+      default: d = static_cast<double>(bits % 1000) / 8.0 - 60.0; break;
+    }
+    if (!std::isfinite(d)) continue;
+    ASSERT_EQ(shortest(doubleNative, d), shortest(doubleFallback, d)) << d;
+    float f;
+    const uint32_t fbits = static_cast<uint32_t>(bits >> 32);
+    if (n % 2 == 0) {
+      std::memcpy(&f, &fbits, sizeof f);
+    } else {
+      f = static_cast<float>(d);
+    }
+    if (!std::isfinite(f)) continue;
+    ASSERT_EQ(shortest(floatNative, f), shortest(floatFallback, f)) << f;
+  }
+}
+
 // Decimal texts as the lexer hands them over: long mantissas, halfway cases
 // between two doubles, exponents near both ends of the range.
 TEST(FloatText, BothParsersGiveTheSameValues) {
@@ -64,7 +104,9 @@ TEST(FloatText, BothParsersGiveTheSameValues) {
     const bool okA = parseDecimalText(text, end, &a);
     const bool okB = parseDecimalTextByStrtod(text, end, &b);
     EXPECT_EQ(okA, okB) << text;
-    if (okA && okB) EXPECT_EQ(std::memcmp(&a, &b, sizeof a), 0) << text;
+    if (okA && okB) {
+      EXPECT_EQ(std::memcmp(&a, &b, sizeof a), 0) << text;
+    }
   }
   uint64_t state = 0x2545f4914f6cdd1dull;
   char text[64];
@@ -84,7 +126,9 @@ TEST(FloatText, BothParsersGiveTheSameValues) {
     const bool okA = parseDecimalText(text, end, &a);
     const bool okB = parseDecimalTextByStrtod(text, end, &b);
     ASSERT_EQ(okA, okB) << text;
-    if (okA) ASSERT_EQ(std::memcmp(&a, &b, sizeof a), 0) << text;
+    if (okA) {
+      ASSERT_EQ(std::memcmp(&a, &b, sizeof a), 0) << text;
+    }
   }
 }
 
