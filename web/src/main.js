@@ -150,11 +150,15 @@ async function download(format) {
     setStatus(`Nothing to download: ${answer.errors} errors`, 'failed');
     return;
   }
-  const link = document.createElement('a');
-  link.href = URL.createObjectURL(new Blob([answer.bytes]));
-  link.download = `scene.${format}`;
-  link.click();
-  setTimeout(() => URL.revokeObjectURL(link.href), 1000);
+  // The main file, then its companions (an OBJ's .mtl, textures).
+  const downloads = [{ name: `scene.${format}`, bytes: answer.bytes }, ...(answer.companions || [])];
+  for (const file of downloads) {
+    const link = document.createElement('a');
+    link.href = URL.createObjectURL(new Blob([file.bytes]));
+    link.download = file.name;
+    link.click();
+    setTimeout(() => URL.revokeObjectURL(link.href), 1000);
+  }
 }
 
 function shareLink() {

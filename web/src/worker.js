@@ -28,13 +28,24 @@ function call(name, request) {
   return JSON.parse(engine.ccall(name, 'string', ['string'], [JSON.stringify(request)]));
 }
 
+function clearOutputs() {
+  const FS = engine.FS;
+  for (const name of FS.readdir(WORK + '/out')) {
+    if (name !== '.' && name !== '..') FS.unlink(`${WORK}/out/${name}`);
+  }
+}
+
 function exportScene(request, format) {
   const output = `${WORK}/out/scene.${format}`;
-  try { engine.FS.unlink(output); } catch (e) { /* none yet */ }
+  clearOutputs();
   const started = performance.now();
   const result = call('lumeric_export', { ...request, input: SCENE, output, format });
   result.engineMs = performance.now() - started;
   try { result.bytes = engine.FS.readFile(output); } catch (e) { result.bytes = null; }
+  // The files written beside the main one (an OBJ's materials, textures).
+  result.companions = engine.FS.readdir(`${WORK}/out`)
+    .filter((name) => name !== '.' && name !== '..' && name !== `scene.${format}`)
+    .map((name) => ({ name, bytes: engine.FS.readFile(`${WORK}/out/${name}`) }));
   return result;
 }
 
@@ -50,5 +61,7 @@ onmessage = async (event) => {
   } else if (kind === 'export') {
     Object.assign(answer, exportScene(request, format));
   }
-  postMessage(answer, answer.bytes ? [answer.bytes.buffer] : []);
+  const transfers = (answer.companions || []).map((c) => c.bytes.buffer);
+  if (answer.bytes) transfers.push(answer.bytes.buffer);
+  postMessage(answer, transfers);
 };

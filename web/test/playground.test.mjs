@@ -4,7 +4,7 @@
 import { test, before, after } from 'node:test';
 import assert from 'node:assert/strict';
 import { createServer } from 'node:http';
-import { mkdtempSync, readFileSync, rmSync, mkdirSync } from 'node:fs';
+import { existsSync, mkdtempSync, readFileSync, readdirSync, rmSync, mkdirSync, writeFileSync } from 'node:fs';
 import { tmpdir } from 'node:os';
 import { dirname, extname, join, normalize } from 'node:path';
 import { fileURLToPath } from 'node:url';
@@ -213,5 +213,54 @@ test('a translation past the time limit is stopped, and the restarted engine goe
   await page.$eval('#time-limit', (e) => { e.value = '20'; });
   await typeScene(page, '#VRML V1.0 ascii\nSphere { }\n');
   assert.ok(triangleCount(await status(page)) > 0);
+  await page.browserContext().close();
+});
+
+test('a file the author adds is read by INCLUDE', async () => {
+  const page = await openPage();
+  const dir = mkdtempSync(join(tmpdir(), 'lumeric-include-'));
+  writeFileSync(join(dir, 'part.vlm'), '#VRML V1.0 ascii\nSeparator {\n\tCube { }\n\tTranslation { translation 3 0 0 }\n\tCube { }\n}\n');
+  const count = await page.evaluate(() => window.playground.count);
+  const input = await page.$('#files');
+  await input.uploadFile(join(dir, 'part.vlm'));
+  await page.waitForFunction((n) => window.playground.count > n, {}, count);
+  const last = await typeScene(page, '#VRML V1.0 ascii\nSeparator {\n\tINCLUDE part.vlm\n}\n');
+  assert.equal(last.errors, 0, JSON.stringify(last.messages));
+  assert.equal(triangleCount(await status(page)), 24);
+  assert.match(await page.$eval('#file-list', (e) => e.textContent), /part\.vlm/);
+  rmSync(dir, { recursive: true, force: true });
+  await page.browserContext().close();
+});
+
+test('downloads give the result in each format, and the scene is kept for the next visit', async () => {
+  const page = await openPage();
+  await typeScene(page, '#VRML V1.0 ascii\nSeparator {\n\tCube { width 2 }\n}\n');
+  const dir = mkdtempSync(join(tmpdir(), 'lumeric-downloads-'));
+  const session = await browser.target().createCDPSession();
+  await session.send('Browser.setDownloadBehavior', { behavior: 'allow', downloadPath: dir, browserContextId: page.browserContext().id });
+  const starts = { wrl: '#VRML V1.0 ascii', glb: 'glTF', obj: null, stl: null };
+  for (const format of Object.keys(starts)) {
+    await page.click(`[data-format="${format}"]`);
+    const file = join(dir, `scene.${format}`);
+    for (let i = 0; i < 100 && !existsSync(file); i++) await new Promise((r) => setTimeout(r, 100));
+    assert.ok(existsSync(file), `scene.${format} was downloaded: ${readdirSync(dir)}`);
+  }
+  assert.ok(readFileSync(join(dir, 'scene.wrl'), 'utf8').startsWith('#VRML V1.0 ascii'));
+  assert.equal(readFileSync(join(dir, 'scene.glb')).subarray(0, 4).toString('latin1'), 'glTF');
+  const obj = readFileSync(join(dir, 'scene.obj'), 'utf8');
+  assert.equal(obj.split('\n').filter((l) => l.startsWith('f ')).length, 12, 'the cube\'s twelve triangles');
+  const library = /^mtllib (.+)$/m.exec(obj);
+  if (library) {
+    for (let i = 0; i < 50 && !existsSync(join(dir, library[1])); i++) await new Promise((r) => setTimeout(r, 100));
+    assert.ok(existsSync(join(dir, library[1])), `the OBJ's ${library[1]} comes with it`);
+  }
+  assert.equal(readFileSync(join(dir, 'scene.stl')).length, 84 + 12 * 50, 'a binary STL of twelve triangles');
+  rmSync(dir, { recursive: true, force: true });
+
+  // The same browser opened again shows the last scene.
+  const again = await page.browserContext().newPage();
+  await again.goto(base);
+  await again.waitForFunction(() => window.playground && window.playground.count > 0, { timeout: 30000 });
+  assert.match(await again.evaluate(() => window.playground.editor.state.doc.toString()), /Cube \{ width 2 \}/);
   await page.browserContext().close();
 });
