@@ -4,6 +4,7 @@
 // valid until the next call.
 #include <emscripten/emscripten.h>
 
+#include <cstdint>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -14,6 +15,7 @@
 #include "core/RunState.h"
 #include "driver/ExportRun.h"
 #include "driver/SceneParameters.h"
+#include "expr/functions/RandomGenerator.h"
 #include "lumeric/lumeric.h"
 
 namespace {
@@ -37,8 +39,16 @@ class CollectingView : public CReportErrorView {
   int errors = 0;
 };
 
+// What the library keeps from one run to the next (the PRECISION step, the
+// random generator), as the module was loaded: every request starts as the
+// command does in a new process, whatever the page translated before.
+const double kStartPrecision = lumeric::precisionQuantum;
+const uint32_t kStartRandomState = lumeric::randomState();
+
 // The run's budgets and the -D values a request gives.
 void takeRequest(const json& request, lumeric::RunAdditions& additions) {
+  lumeric::precisionQuantum = kStartPrecision;
+  lumeric::setRandomState(kStartRandomState);
   lumeric::RunLimits limits;
   limits.maxNodes = request.value("maxNodes", limits.maxNodes);
   limits.maxEvaluations = request.value("maxEvaluations", limits.maxEvaluations);
