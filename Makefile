@@ -7,7 +7,7 @@ RELEASE_DIR := build/release
 TEST_DIR := build/test
 DEMO_SCENE ?= examples/expressions.vlm
 
-.PHONY: all deps test-deps release release-bench demo test bench bench-generators gallery fuzz clean
+.PHONY: all deps test-deps web-deps release release-bench demo test web serve bench bench-generators gallery fuzz clean
 
 all: release
 
@@ -17,6 +17,9 @@ deps:
 
 test-deps:
 	@scripts/install-deps.sh test
+
+web-deps:
+	@scripts/install-deps.sh web
 
 RELEASE_CONFIGURE := cmake -S . -B $(RELEASE_DIR) -DCMAKE_BUILD_TYPE=Release -DLUMERIC_TESTS=OFF
 
@@ -35,10 +38,21 @@ release-bench:
 demo: release
 	$(RELEASE_DIR)/lumeric -o - $(DEMO_SCENE)
 
-test: test-deps
+# The suite includes the playground's browser test, so the site is built
+# first.
+test: test-deps web
 	cmake -S . -B $(TEST_DIR) -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g" -DLUMERIC_SANITIZE=ON >/dev/null
 	cmake --build $(TEST_DIR) -j $(JOBS)
 	cd $(TEST_DIR) && ctest --output-on-failure -j $(JOBS)
+
+# The playground: a static site in build/web/ that any static file server
+# can serve; `make serve` serves it on http://localhost:$(PORT)/.
+PORT ?= 8000
+web: web-deps
+	scripts/build-web.sh $(JOBS)
+
+serve: web
+	cd build/web && python3 -m http.server $(PORT)
 
 # Builds the fuzz targets with clang's libFuzzer in build/fuzz and runs each
 # for FUZZ_TIME seconds, FUZZ_PARALLEL targets at a time.

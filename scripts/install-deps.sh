@@ -3,12 +3,15 @@
 # Debian packages (apt-get) and Node packages (npm ci, from the committed
 # lock files); needs root (or sudo) the first time.
 #
-#   scripts/install-deps.sh [build|test|bench|fuzz]
+#   scripts/install-deps.sh [build|test|web|bench|fuzz]
 #
 #   build  (the default) the library, the command and the exporter
-#   test   build, plus what the test suite runs: GoogleTest, Coin (the
-#          independent VRML 1.0 reader), the export checks' readers and
-#          validator, the editors' test tools, headless Chromium
+#   web    build, plus what the playground is built with: Emscripten, Node
+#          and the playground's Node packages (CodeMirror, three.js,
+#          esbuild, puppeteer-core for its test)
+#   test   build and web, plus what the test suite runs: GoogleTest, Coin
+#          (the independent VRML 1.0 reader), the export checks' readers
+#          and validator, the editors' test tools, headless Chromium
 #   bench  build, plus Google Benchmark and Coin
 #   fuzz   build, plus clang and its libFuzzer runtime
 set -euo pipefail
@@ -23,16 +26,20 @@ lean_packages=()
 node_folders=()
 case "$profile" in
   build) ;;
+  web)
+    packages+=(emscripten nodejs)
+    node_folders+=(web)
+    ;;
   test)
     packages+=(libgtest-dev libcoin-dev binutils groff-base
-      nodejs admesh assimp-utils view3dscene xvfb xauth chromium)
+      nodejs admesh assimp-utils view3dscene xvfb xauth chromium emscripten)
     lean_packages+=(vim emacs-nox)
-    node_folders+=(tests/export editors/vscode scripts/render)
+    node_folders+=(tests/export editors/vscode scripts/render web)
     ;;
   bench) packages+=(libbenchmark-dev libcoin-dev) ;;
   fuzz) packages+=(clang libclang-rt-dev) ;;
   *)
-    echo "usage: $0 [build|test|bench|fuzz]" >&2
+    echo "usage: $0 [build|test|web|bench|fuzz]" >&2
     exit 2
     ;;
 esac

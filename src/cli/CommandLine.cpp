@@ -35,6 +35,8 @@ const char kUsageText[] =
     "  --lint         translate the whole scene, evaluating every field, and\n"
     "                 report every message a translation gives; no result is\n"
     "                 written (editors run this)\n"
+    "  --parameters   print the fields of the scene's DEF-named PARAMETERS nodes\n"
+    "                 and their annotations as JSON; no result is written\n"
     "  --type TYPE    with --check: the file type; \"vlm\" (any case) enables the\n"
     "                 extended language, anything else reads plain VRML 1.0.\n"
     "                 Default: taken from INPUT's extension, or --stdin-name's\n"
@@ -254,6 +256,8 @@ bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& err
         line.action = CommandLine::kCheck;
       } else if (arg == "--lint") {
         line.action = CommandLine::kLint;
+      } else if (arg == "--parameters") {
+        line.action = CommandLine::kParameters;
       } else if (arg == "-o") {
         if (!takeValue(argc, argv, i, line.output, error)) return false;
         line.outputSet = true;
@@ -339,7 +343,9 @@ bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& err
     error = "--type is used only with --check";
     return false;
   }
-  const std::string mode = line.action == CommandLine::kLint ? "--lint" : "--check";
+  const std::string mode = line.action == CommandLine::kLint         ? "--lint"
+                           : line.action == CommandLine::kParameters ? "--parameters"
+                                                                     : "--check";
   if (line.outputSet && line.writesNothing()) {
     error = "-o cannot be combined with " + mode;
     return false;

@@ -13,7 +13,7 @@
 namespace lumeric {
 
 struct CommandLine {
-  enum Action { kTranslate, kCheck, kLint, kHelp, kVersion };
+  enum Action { kTranslate, kCheck, kLint, kParameters, kHelp, kVersion };
 
   Action action = kTranslate;
   std::string input;      // "-": standard input
@@ -35,8 +35,8 @@ struct CommandLine {
   int tessellation = 0;  // --tessellation; 0: as Complexity says
 
   bool readsStandardInput() const { return input == "-"; }
-  // --check and --lint write nothing.
-  bool writesNothing() const { return action == kCheck || action == kLint; }
+  // --check, --lint and --parameters write no translation.
+  bool writesNothing() const { return action == kCheck || action == kLint || action == kParameters; }
   // The name the input goes by in messages, --deps and for INCLUDE: the
   // path given, or for standard input --stdin-name or "<stdin>".
   std::string inputName() const;

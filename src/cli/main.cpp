@@ -14,6 +14,7 @@
 #include "core/RunState.h"
 #include "driver/Translation.h"
 #include "driver/ExportRun.h"
+#include "driver/SceneParameters.h"
 #include "lumeric/lumeric.h"
 
 #ifndef LUMERIC_VERSION
@@ -109,6 +110,10 @@ int main(int argc, char** argv) {
     if (output.stream == nullptr) return usageError(std::string("cannot open /dev/null: ") + std::strerror(errno));
     translateScene(input.data(), &view, directory.data(), outputName, &output, &additions);
     std::fclose(output.stream);
+  } else if (line.action == CommandLine::kParameters) {
+    std::vector<SceneParameter> parameters;
+    listSceneParameters(input.data(), &view, &additions, parameters);
+    if (additions.overrideError.empty()) std::fputs(parametersJson(parameters).c_str(), stdout);
   } else if (line.format != ExportFormat::kWrl) {
     ExportRequest request;
     request.inputPath = input.data();

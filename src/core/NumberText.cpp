@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <cstring>
 
+#include "core/FloatText.h"
+
 namespace lumeric {
 
 namespace {
@@ -128,11 +130,7 @@ int formatNumber(char* buffer, double value) {
     // printf spells these without any digits; keep its exact texts.
     return std::snprintf(buffer, kNumberTextSize, "%g", value);
   }
-  // to_chars with the general format and a precision is specified to give
-  // the text of printf's "%.*g", at a fraction of its cost.
-  auto result = std::to_chars(buffer, buffer + kNumberTextSize - 1, value, std::chars_format::general, 6);
-  *result.ptr = '\0';
-  return static_cast<int>(result.ptr - buffer);
+  return formatGeneral6(buffer, kNumberTextSize, value);
 }
 
 int formatInteger(char* buffer, long value) {

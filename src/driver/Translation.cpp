@@ -240,6 +240,19 @@ int checkScene(const char* inputPath, CReportErrorView* view, const char* direct
   });
 }
 
+int inspectScene(const char* inputPath, CReportErrorView* view, const char* directory, RunAdditions* additions,
+                 const std::function<void(QvNode* root)>& inspect) {
+  return guarded([&] {
+    theRun.extensionsEnabled = true;
+    theRun.sceneMayChooseOutput = false;
+    return runTranslation(inputPath, view, directory, nullptr, additions, [&](QvNode* root) {
+      root->evaluateInPlace();
+      root->bindParents();
+      inspect(root);
+    });
+  });
+}
+
 }  // namespace lumeric
 
 extern "C" int ParseVRMLLumeric(char* inputPath, CReportErrorView* view, char* directory, char* outputNameOut) {

@@ -5,6 +5,7 @@
 #define LUMERIC_DRIVER_TRANSLATION_H
 
 #include <cstdio>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -51,6 +52,13 @@ int translateScene(const char* inputPath, CReportErrorView* view, const char* di
                    const OutputOverride* output, RunAdditions* additions = nullptr);
 int checkScene(const char* inputPath, CReportErrorView* view, const char* directory, const char* fileType,
                RunAdditions* additions = nullptr);
+
+class QvNode;
+// Reads and evaluates the scene in the extended language as checkScene
+// does, then hands its root to `inspect` before the run ends; writes
+// nothing.  Results as checkScene.
+int inspectScene(const char* inputPath, CReportErrorView* view, const char* directory, RunAdditions* additions,
+                 const std::function<void(QvNode* root)>& inspect);
 
 }  // namespace lumeric
 

@@ -13,4 +13,5 @@ set(LUMERIC_DRIVER_SOURCES
 set(LUMERIC_DRIVER_EXPORT_SOURCES
   src/driver/ExportPipeline.cpp
   src/driver/ExportRun.cpp
+  src/driver/SceneParameters.cpp
 )

@@ -7,9 +7,10 @@ namespace lumeric {
 size_t MeshBuilder::KeyHash::operator()(const Key& key) const {
   uint32_t words[12];
   std::memcpy(words, key.data(), sizeof words);
-  size_t hash = 1469598103934665603ull;
+  // 64-bit FNV-1a, cut to size_t where that is narrower (WebAssembly).
+  uint64_t hash = 1469598103934665603ull;
   for (uint32_t w : words) hash = (hash ^ w) * 1099511628211ull;
-  return hash;
+  return static_cast<size_t>(hash);
 }
 
 MeshBuilder::Part& MeshBuilder::part(int material, PrimitiveMode mode) {

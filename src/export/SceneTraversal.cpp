@@ -107,7 +107,7 @@ struct KindOf;
 #define LUMERIC_KIND_OF(name)                                       \
   template <>                                                       \
   struct KindOf<Qv##name> {                                         \
-    static constexpr NodeKind value = NodeKind::k##name;            \
+    [[maybe_unused]] static constexpr NodeKind value = NodeKind::k##name; \
   };
 LUMERIC_EXPORT_NODE_CLASSES(LUMERIC_KIND_OF)
 #undef LUMERIC_KIND_OF

@@ -1,7 +1,6 @@
 #include "expr/ExpressionLexer.h"
 
 #include <array>
-#include <charconv>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -9,6 +8,7 @@
 #include <limits>
 #include <string>
 
+#include "core/FloatText.h"
 #include "expr/Term.h"
 
 namespace lumeric {
@@ -136,14 +136,13 @@ bool convertShortDecimal(const char* begin, const char* end, double* value) {
   return true;
 }
 
-// The decimal text [begin, end), well formed.  from_chars rounds exactly as
-// strtod does; only values beyond the range of doubles need strtod itself,
-// which gives the infinities and zeros the user would expect.
+// The decimal text [begin, end), well formed.  Only values beyond the range
+// of doubles need strtod itself, which gives the infinities and zeros the
+// user would expect.
 double convertDecimal(const char* begin, const char* end) {
   double number = 0.0;
   if (convertShortDecimal(begin, end, &number)) return number;
-  std::from_chars_result result = std::from_chars(begin, end, number);
-  if (result.ec == std::errc() && result.ptr == end) return number;
+  if (parseDecimalText(begin, end, &number)) return number;
   std::string copy(begin, end);
   return std::strtod(copy.c_str(), nullptr);
 }

@@ -8,6 +8,7 @@ set(LUMERIC_CLI_TESTS
   cli/OddInputsTest.cpp
   cli/OutputFilesTest.cpp
   cli/OverridesAndDepsTest.cpp
+  cli/ParametersTest.cpp
   cli/ReadFilesStayTest.cpp
   cli/StandardInputTest.cpp
 )

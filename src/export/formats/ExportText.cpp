@@ -3,6 +3,8 @@
 #include <charconv>
 #include <cmath>
 
+#include "core/FloatText.h"
+
 #ifndef LUMERIC_VERSION
 #define LUMERIC_VERSION "unknown"
 #endif
@@ -20,8 +22,7 @@ void appendShortest(std::string& out, Number value) {
   if (!std::isfinite(value)) value = 0;
   if (value == 0) value = 0;  // no "-0"
   char buffer[32];
-  const std::to_chars_result result = std::to_chars(buffer, buffer + sizeof buffer, value);
-  out.append(buffer, result.ptr);
+  out.append(buffer, static_cast<size_t>(formatShortest(buffer, sizeof buffer, value)));
 }
 
 }  // namespace

@@ -1,0 +1,3 @@
+set(LUMERIC_DRIVER_TESTS
+  driver/SceneParametersTest.cpp
+)
