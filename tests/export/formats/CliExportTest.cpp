@@ -214,7 +214,7 @@ TEST(CliExportTest, GltfValidatorFindsNoErrorInAnExample) {
     ASSERT_EQ(run.status, 0) << run.err;
     std::string report;
     ASSERT_EQ(runCommand("NODE_PATH='" + modules + "' node '" + LUMERIC_TEST_DIR +
-                             "/export/formats/validate_gltf.js' '" + dir.path() + "/" + name + "'",
+                             "/export/formats/validate_gltf.cjs' '" + dir.path() + "/" + name + "'",
                          report),
               0)
         << report;

@@ -198,6 +198,8 @@ bool haveProgram(const std::string& name) {
 std::string gltfValidatorModules() {
   std::vector<std::string> candidates;
   if (const char* given = std::getenv("LUMERIC_NODE_MODULES")) candidates.push_back(given);
+  // Where `npm ci` in tests/export (the test set-up) puts it.
+  candidates.push_back(std::string(LUMERIC_SOURCE_DIR) + "/tests/export/node_modules");
   candidates.push_back(std::string(LUMERIC_SOURCE_DIR) + "/node_modules");
   struct stat status;
   for (const std::string& directory : candidates) {

@@ -481,7 +481,7 @@ TEST_P(GltfValidatorTest, FindsNoError) {
     const std::string path = dir.write(name, files[0].bytes);
     std::string report;
     ASSERT_EQ(runCommand("NODE_PATH='" + modules + "' node '" + LUMERIC_TEST_DIR +
-                             "/export/formats/validate_gltf.js' '" + path + "'",
+                             "/export/formats/validate_gltf.cjs' '" + path + "'",
                          report),
               0)
         << report;
