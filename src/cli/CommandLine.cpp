@@ -65,6 +65,11 @@ const char kUsageText[] =
     "                 evaluations (default 10000000); further references read as 0\n"
     "  --max-nodes N  make at most N nodes by copying (LOOP, SELECT, USE; default\n"
     "                 10000000); the copies made so far are written\n"
+    "  --watch        after the first run, wait for a change to INPUT or to any\n"
+    "                 file the run read (INCLUDE, WWWInline, textures) and run\n"
+    "                 again, until Ctrl-C; one summary line per run\n"
+    "  --hints        with --message-format plain: add the notes gnu and json\n"
+    "                 print (near names, repeated messages folded)\n"
     "  --confine      let INCLUDE read and OUTPUT_TO write only regular files in\n"
     "                 INPUT's directory and below it (for scenes from untrusted\n"
     "                 sources)\n"
@@ -274,6 +279,8 @@ bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& err
         if (!takeCount(argc, argv, i, line.limits.maxNodes, error)) return false;
       } else if (arg == "--confine") {
         line.limits.confine = true;
+      } else if (arg == "--watch" || arg == "--hints") {
+        (arg == "--watch" ? line.watch : line.hints) = true;
       } else if (arg.compare(0, 2, "-W") == 0) {
         std::string which;
         if (!takeJoinable(argc, argv, i, "-W", which, error) || !takeWarning(which, line, error)) return false;
@@ -340,6 +347,10 @@ bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& err
   // other extension keeps VRML 1.0.
   if (!formatSet && line.outputSet && line.output != "-" && !exportFormatOfPath(line.output, line.format)) {
     line.format = ExportFormat::kWrl;
+  }
+  if (line.watch && line.readsStandardInput()) {
+    error = "--watch needs an INPUT file, not -";
+    return false;
   }
   if (!typeSet) line.fileType = fileTypeOf(line.inputName());
   return true;

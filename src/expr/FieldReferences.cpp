@@ -6,6 +6,7 @@
 #include "core/QvContext.h"
 #include "expr/TermConversions.h"
 #include "scene/FieldExpression.h"
+#include "scene/FieldNameCandidates.h"
 #include "scene/QvField.h"
 #include "scene/QvFieldTable.h"
 #include "scene/NodeVisit.h"
@@ -49,9 +50,13 @@ void reportUnusable(FieldExpression* at, const char* label, const Selection& sel
   }
 }
 
+// `meant` names the fields the reference could have reached.
 Term* valueOf(QvField* field, const char* label, const Selection& selection, bool plainIsDefined,
-              FieldExpression* at) {
-  if (field == nullptr) return reportAtExpression(at, "Field %s not found", label);
+              FieldExpression* at, const NameCandidates& meant) {
+  if (field == nullptr) {
+    OfferedCandidates offered(meant);
+    return reportAtExpression(at, "Field %s not found", label);
+  }
   Term* value = field->GetLumericValue(selection.i, selection.j, at);
   if (value == nullptr) reportUnusable(at, label, selection, plainIsDefined);
   return value;
@@ -72,10 +77,12 @@ QvField* findFieldInScope(QvAtom name) {
   return nullptr;
 }
 
+QvNode* findNamedNode(const char* nodeName) {
+  return theRun.defNames != nullptr ? theRun.defNames->findName(QvAtom(nodeName)) : nullptr;
+}
+
 QvField* findNodeField(const char* nodeName, const char* fieldName) {
-  if (theRun.defNames == nullptr) return nullptr;
-  QvNode* node = theRun.defNames->findName(QvAtom(nodeName));
-  return findLocalField(node, QvAtom(fieldName));
+  return findLocalField(findNamedNode(nodeName), QvAtom(fieldName));
 }
 
 Term* referToField(const char* name, Term* first, Term* second, FieldExpression* at) {
@@ -85,13 +92,15 @@ Term* referToField(const char* name, Term* first, Term* second, FieldExpression*
   QvField* field = findLocalField(at != nullptr ? at->owner : nullptr, atom);
   const bool inScope = field == nullptr;
   if (inScope) field = findFieldInScope(atom);
-  return valueOf(field, name, selection, inScope, at);
+  const FieldNameCandidates meant(NameCandidates::kFieldInScope, name, at != nullptr ? at->owner : nullptr, true);
+  return valueOf(field, name, selection, inScope, at, meant);
 }
 
 Term* referToFieldInScope(const char* name, Term* first, Term* second, FieldExpression* at) {
   Selection selection;
   if (!selectionFrom(first, second, &selection, at)) return nullptr;
-  return valueOf(findFieldInScope(QvAtom(name)), name, selection, true, at);
+  const FieldNameCandidates meant(NameCandidates::kFieldInScope, name, nullptr, true);
+  return valueOf(findFieldInScope(QvAtom(name)), name, selection, true, at, meant);
 }
 
 Term* referToNodeField(const char* nodeName, const char* fieldName, Term* first, Term* second,
@@ -100,12 +109,18 @@ Term* referToNodeField(const char* nodeName, const char* fieldName, Term* first,
   if (!selectionFrom(first, second, &selection, at)) return nullptr;
   char label[QvContext::kMessageLimit + 1];
   std::snprintf(label, sizeof label, "%s:%s", nodeName, fieldName);
-  return valueOf(findNodeField(nodeName, fieldName), label, selection, true, at);
+  QvNode* node = findNamedNode(nodeName);
+  const FieldNameCandidates meant(NameCandidates::kFieldInScope, fieldName, node);
+  return valueOf(findLocalField(node, QvAtom(fieldName)), label, selection, true, at, meant);
 }
 
 Term* localFieldValue(QvNode* node, const char* name, FieldExpression* at) {
   QvField* field = findLocalField(node, QvAtom(name));
-  if (field == nullptr) return reportAtExpression(at, "Local Field %s not found", name);
+  if (field == nullptr) {
+    const FieldNameCandidates meant(NameCandidates::kFieldInScope, name, node);
+    OfferedCandidates offered(meant);
+    return reportAtExpression(at, "Local Field %s not found", name);
+  }
   Term* value = field->GetLumericValue(-1, -1, at);
   if (value == nullptr) reportAtExpression(at, "%s is not a valid element", name);
   return value;

@@ -85,4 +85,9 @@ const NodeClassEntry kStandardClasses[] = {
 
 QvNode* createStandardNode(const char* className) { return createFromTable(kStandardClasses, className); }
 
+void collectNodeClassNames(std::vector<std::string>& names) {
+  collectClassNames(kStandardClasses, names);
+  collectExtensionClassNames(names);
+}
+
 }  // namespace lumeric

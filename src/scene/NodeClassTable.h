@@ -3,6 +3,8 @@
 #define LUMERIC_SCENE_NODECLASSTABLE_H
 
 #include <cstring>
+#include <string>
+#include <vector>
 
 namespace lumeric {
 
@@ -32,6 +34,12 @@ QvNode* createFromTable(const NodeClassEntry (&table)[N], const char* name) {
     if (std::strcmp(entry.name, name) == 0) return entry.create();
   }
   return nullptr;
+}
+
+// Appends the name of every class of `table`.
+template <size_t N>
+void collectClassNames(const NodeClassEntry (&table)[N], std::vector<std::string>& names) {
+  for (const NodeClassEntry& entry : table) names.push_back(entry.name);
 }
 
 }  // namespace lumeric

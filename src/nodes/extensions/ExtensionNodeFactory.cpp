@@ -43,4 +43,6 @@ QvNode* createExtensionNode(const char* className) { return createFromTable(kExt
 
 QvNode* createStatement(const char* keyword) { return createFromTable(kStatements, keyword); }
 
+void collectExtensionClassNames(std::vector<std::string>& names) { collectClassNames(kExtensionNodes, names); }
+
 }  // namespace lumeric
