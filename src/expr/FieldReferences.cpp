@@ -50,10 +50,18 @@ void reportUnusable(FieldExpression* at, const char* label, const Selection& sel
   }
 }
 
-// `meant` names the fields the reference could have reached.
+// Where the reference looked, for the hint of "Field X not found": the
+// fields of `node` and, with `inScope`, those of the enclosing nodes.
+struct Searched {
+  const char* name;
+  QvNode* node;
+  bool inScope;
+};
+
 Term* valueOf(QvField* field, const char* label, const Selection& selection, bool plainIsDefined,
-              FieldExpression* at, const NameCandidates& meant) {
+              FieldExpression* at, const Searched& searched) {
   if (field == nullptr) {
+    const FieldNameCandidates meant(NameCandidates::kFieldInScope, searched.name, searched.node, searched.inScope);
     OfferedCandidates offered(meant);
     return reportAtExpression(at, "Field %s not found", label);
   }
@@ -92,15 +100,13 @@ Term* referToField(const char* name, Term* first, Term* second, FieldExpression*
   QvField* field = findLocalField(at != nullptr ? at->owner : nullptr, atom);
   const bool inScope = field == nullptr;
   if (inScope) field = findFieldInScope(atom);
-  const FieldNameCandidates meant(NameCandidates::kFieldInScope, name, at != nullptr ? at->owner : nullptr, true);
-  return valueOf(field, name, selection, inScope, at, meant);
+  return valueOf(field, name, selection, inScope, at, {name, at != nullptr ? at->owner : nullptr, true});
 }
 
 Term* referToFieldInScope(const char* name, Term* first, Term* second, FieldExpression* at) {
   Selection selection;
   if (!selectionFrom(first, second, &selection, at)) return nullptr;
-  const FieldNameCandidates meant(NameCandidates::kFieldInScope, name, nullptr, true);
-  return valueOf(findFieldInScope(QvAtom(name)), name, selection, true, at, meant);
+  return valueOf(findFieldInScope(QvAtom(name)), name, selection, true, at, {name, nullptr, true});
 }
 
 Term* referToNodeField(const char* nodeName, const char* fieldName, Term* first, Term* second,
@@ -110,8 +116,7 @@ Term* referToNodeField(const char* nodeName, const char* fieldName, Term* first,
   char label[QvContext::kMessageLimit + 1];
   std::snprintf(label, sizeof label, "%s:%s", nodeName, fieldName);
   QvNode* node = findNamedNode(nodeName);
-  const FieldNameCandidates meant(NameCandidates::kFieldInScope, fieldName, node);
-  return valueOf(findLocalField(node, QvAtom(fieldName)), label, selection, true, at, meant);
+  return valueOf(findLocalField(node, QvAtom(fieldName)), label, selection, true, at, {fieldName, node, false});
 }
 
 Term* localFieldValue(QvNode* node, const char* name, FieldExpression* at) {
