@@ -78,7 +78,7 @@ std::string gnuLine(const MessageParts& parts) {
   return "lumeric: " + severity + ": " + parts.text;
 }
 
-std::string jsonLine(const MessageParts& parts, int repeat = 1) {
+std::string jsonLine(const MessageParts& parts, long repeat = 1) {
   std::string line = "{\"file\":";
   line += parts.hasFile ? "\"" + jsonEscape(parts.file) + "\"" : "null";
   line += ",\"line\":";
@@ -162,7 +162,7 @@ std::string formatMessage(MessageFormat format, const std::string& message, int 
   return message + "\n";
 }
 
-std::string formatParts(MessageFormat format, const std::string& message, const MessageParts& parts, int repeat) {
+std::string formatParts(MessageFormat format, const std::string& message, const MessageParts& parts, long repeat) {
   switch (format) {
     case MessageFormat::kPlain:
       return (parts.severity == MessageParts::kError ? "error: " : "") + message + "\n";

@@ -42,7 +42,7 @@ std::string formatMessage(MessageFormat format, const std::string& message, int 
 // completed, as with the file of a copy); with `repeat` above 1 json adds
 // "repeat":N, the number of identical messages this one stands for.
 std::string formatParts(MessageFormat format, const std::string& message, const MessageParts& parts,
-                        int repeat = 1);
+                        long repeat = 1);
 
 // A note at the position of the message `at`: "note: TEXT" in plain, at
 // `at`'s file and line in gnu and json.

@@ -1,7 +1,5 @@
 #include "cli/StderrView.h"
 
-#include <unordered_map>
-
 #include "cli/NameHints.h"
 #include "core/MessageDetails.h"
 
@@ -32,48 +30,58 @@ int StderrView::post(const char* text, int flag) {
     held.parts.hasFile = true;
     held.parts.file = details.copiedFrom;
   }
-  if (details.candidates != nullptr) held.hint = hintText(nearNames(*details.candidates));
+  // The hint is worked out once per distinct message: a LOOP may repeat
+  // one many times.
+  auto addHint = [&details](Held& message) {
+    if (details.candidates != nullptr) message.hint = hintText(nearNames(*details.candidates));
+  };
   const void* key = details.repetitionsOf != nullptr ? details.repetitionsOf : aboutCopy ? &kCopies : nullptr;
   if (key != blockKey_) finish();
   if (key == nullptr) {
+    addHint(held);
     print(held, 1);
     std::fflush(stream_);
     return 0;
   }
   blockKey_ = key;
-  block_.push_back(std::move(held));
+  const std::string identity = std::to_string(held.parts.severity) + held.parts.file + '\0' + held.message;
+  const auto entry = indexOf_.emplace(identity, distinct_.size());
+  if (entry.second) {
+    addHint(held);
+    distinct_.push_back(std::move(held));
+    counts_.push_back(0);
+  }
+  ++counts_[entry.first->second];
+  if (format_ == MessageFormat::kJson) order_.push_back(entry.first->second);
   return 0;
 }
 
 void StderrView::finish() {
-  // Each message's first identical one, and how many each first stands for.
-  std::vector<size_t> first(block_.size());
-  std::vector<int> count(block_.size(), 0);
-  std::unordered_map<std::string, size_t> firstOf;
-  for (size_t k = 0; k < block_.size(); ++k) {
-    const Held& held = block_[k];
-    const std::string key = std::to_string(held.parts.severity) + held.parts.file + '\0' + held.message;
-    first[k] = firstOf.emplace(key, k).first->second;
-    ++count[first[k]];
-  }
-  for (size_t k = 0; k < block_.size(); ++k) {
-    const bool isFirst = first[k] == k;
-    if (format_ == MessageFormat::kJson) {
-      print(block_[k], isFirst ? count[k] : 1);
-    } else if (isFirst) {
-      print(block_[k], 1);
-      if (count[k] > 1) {
-        const std::string note = "repeated " + std::to_string(count[k]) + " times";
-        std::fputs(noteLine(format_, block_[k].parts, note).c_str(), stream_);
+  if (format_ == MessageFormat::kJson) {
+    // Every message in its order; the first of each kind with its count.
+    std::vector<bool> printed(distinct_.size(), false);
+    for (size_t k : order_) {
+      print(distinct_[k], printed[k] ? 1 : counts_[k]);
+      printed[k] = true;
+    }
+  } else {
+    for (size_t k = 0; k < distinct_.size(); ++k) {
+      print(distinct_[k], 1);
+      if (counts_[k] > 1) {
+        const std::string note = "repeated " + std::to_string(counts_[k]) + " times";
+        std::fputs(noteLine(format_, distinct_[k].parts, note).c_str(), stream_);
       }
     }
   }
-  block_.clear();
+  distinct_.clear();
+  counts_.clear();
+  indexOf_.clear();
+  order_.clear();
   blockKey_ = nullptr;
   std::fflush(stream_);
 }
 
-void StderrView::print(const Held& held, int repeat) {
+void StderrView::print(const Held& held, long repeat) {
   std::fputs(formatParts(format_, held.message, held.parts, repeat).c_str(), stream_);
   if (!held.hint.empty()) std::fputs(noteLine(format_, held.parts, held.hint).c_str(), stream_);
 }

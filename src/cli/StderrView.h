@@ -18,6 +18,7 @@
 
 #include <cstdio>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "cli/MessageFormat.h"
@@ -48,7 +49,7 @@ class StderrView : public CReportErrorView {
     MessageParts parts;
     std::string hint;
   };
-  void print(const Held& held, int repeat);
+  void print(const Held& held, long repeat);
 
   MessageFormat format_;
   FILE* stream_;
@@ -56,7 +57,12 @@ class StderrView : public CReportErrorView {
   int errors_ = 0;
   int warnings_ = 0;
   const void* blockKey_ = nullptr;
-  std::vector<Held> block_;
+  // The block held back: each distinct message once, in the order first
+  // posted, with its count; json also keeps the order of every message.
+  std::vector<Held> distinct_;
+  std::vector<long> counts_;
+  std::unordered_map<std::string, size_t> indexOf_;
+  std::vector<size_t> order_;
 };
 
 }  // namespace lumeric

@@ -153,7 +153,9 @@ int runOnce(const lumeric::CommandLine& line, lumeric::StderrView& view, lumeric
 }
 
 // --watch: runs again after every change to a file the last run read, until
-// SIGINT or SIGTERM; ends with the last run's status.
+// SIGINT or SIGTERM; ends with the last run's status.  A usage error ends it
+// only in the first run: later, an edit (a -D whose node is gone) may have
+// caused it, and the next edit may mend it.
 int watch(const lumeric::CommandLine& line, lumeric::StderrView& view) {
   using namespace lumeric;
   FileWatch files;
@@ -164,13 +166,15 @@ int watch(const lumeric::CommandLine& line, lumeric::StderrView& view) {
   files.follow(openedInput(line));
   constexpr int kQuietMs = 100;
   int status = 0;
+  bool first = true;
   do {
     view.resetCounts();
     RunAdditions additions;
     const auto start = std::chrono::steady_clock::now();
     status = runOnce(line, view, additions);
     const auto elapsed = std::chrono::steady_clock::now() - start;
-    if (status == 2) return status;
+    if (status == 2 && first) return status;
+    first = false;
     printSummary(line, view, additions.nodesWritten,
                  std::chrono::duration_cast<std::chrono::milliseconds>(elapsed).count());
     std::vector<std::string> read = openedInput(line);

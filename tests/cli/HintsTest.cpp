@@ -16,9 +16,10 @@ std::string scene(const std::string& body) { return "#VRML V1.0 ascii\nSeparator
 
 struct HintCase {
   const char* kind;
-  const char* body;  // the Separator's children; the refused name is on line 3
+  const char* body;  // the Separator's children, from line 3 on
   const char* message;
   const char* note;  // "" when no note may follow
+  int line = 3;      // where the message is placed
 };
 
 const HintCase kHintCases[] = {
@@ -35,6 +36,9 @@ const HintCase kHintCases[] = {
     {"colour", "\tMaterial { diffuseColor =Color(\"Yelow\") }\n", "Color Yelow not found",
      "did you mean \"Yellow\"?"},
     {"field in another case", "\tSphere { Radius 2 }\n", "Expected '}'; got 'R'", "did you mean \"radius\"?"},
+    // SET reads its line to the end: its message is placed after it.
+    {"field SET names", "\tDEF P Cube { width 2 }\n\tSET P:widht 3\n", "Field P:widht not found",
+     "did you mean \"width\"?", 5},
     {"far field", "\tCube { colour 2 }\n", "Unknown field \"colour\"", ""},
     {"far function", "\tCube { width =Frobnicate(1) }\n", "Function Frobnicate(...) not found", ""},
     {"brace before a number", "\tSphere { 2 }\n", "Expected '}'; got '2'", ""},
@@ -46,7 +50,8 @@ TEST_P(Hints, FollowTheMessageInEachFormat) {
   const HintCase& c = GetParam();
   ScratchDir dir;
   dir.write("scene.vlm", scene(c.body));
-  const std::string at = "scene.vlm:3: ";
+  const std::string line = std::to_string(c.line);
+  const std::string at = "scene.vlm:" + line + ": ";
   const std::string note = std::string(c.note).empty() ? "" : at + "note: " + c.note + "\n";
 
   const CommandResult gnu = runLumeric({"--lint", "--message-format", "gnu", "scene.vlm"}, dir.path());
@@ -56,12 +61,12 @@ TEST_P(Hints, FollowTheMessageInEachFormat) {
   const CommandResult json = runLumeric({"--lint", "--message-format", "json", "scene.vlm"}, dir.path());
   const std::string jsonNote = std::string(c.note).empty()
                                    ? ""
-                                   : "{\"file\":\"scene.vlm\",\"line\":3,\"severity\":\"note\",\"message\":\"" +
+                                   : "{\"file\":\"scene.vlm\",\"line\":" + line + ",\"severity\":\"note\",\"message\":\"" +
                                          jsonEscape(c.note) + "\"}\n";
-  EXPECT_EQ(json.err, "{\"file\":\"scene.vlm\",\"line\":3,\"severity\":\"error\",\"message\":\"" +
+  EXPECT_EQ(json.err, "{\"file\":\"scene.vlm\",\"line\":" + line + ",\"severity\":\"error\",\"message\":\"" +
                           jsonEscape(c.message) + "\"}\n" + jsonNote);
 
-  const std::string plainMessage = std::string("error: File \"scene.vlm\" Line 3: ") + c.message + "\n";
+  const std::string plainMessage = "error: File \"scene.vlm\" Line " + line + ": " + c.message + "\n";
   const CommandResult plain = runLumeric({"--lint", "scene.vlm"}, dir.path());
   EXPECT_EQ(plain.err, plainMessage);
   const CommandResult hinted = runLumeric({"--lint", "--hints", "scene.vlm"}, dir.path());
