@@ -53,7 +53,7 @@ class ClassCandidates : public NameCandidates {
  public:
   explicit ClassCandidates(const char* word) : NameCandidates(kClass, word) {}
   void collect(std::vector<std::string>& names) const override {
-    sceneOperations().collectNodeClassNames(names);
+    if (sceneOperations().collectNodeClassNames != nullptr) sceneOperations().collectNodeClassNames(names);
   }
 };
 
