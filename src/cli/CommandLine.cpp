@@ -75,6 +75,11 @@ const char kUsageText[] =
     "                 texts, evaluation results) within SIZE bytes, or with a\n"
     "                 suffix K, M or G (default 1536M); past it no further copies,\n"
     "                 references or large results are made\n"
+    "  --watch        after the first run, wait for a change to INPUT or to any\n"
+    "                 file the run read (INCLUDE, WWWInline, textures) and run\n"
+    "                 again, until Ctrl-C; one summary line per run\n"
+    "  --hints        with --message-format plain: add the notes gnu and json\n"
+    "                 print (near names, repeated messages folded)\n"
     "  --confine      let INCLUDE read and OUTPUT_TO write only regular files in\n"
     "                 INPUT's directory and below it (for scenes from untrusted\n"
     "                 sources)\n"
@@ -93,12 +98,14 @@ const char kUsageText[] =
     "           FILE:LINE: note: TEXT      (PRINT output)\n"
     "           FILE: error: TEXT          (about a whole file)\n"
     "           lumeric: error: TEXT       (no position)\n"
-    "           lumeric: error: Line N: TEXT\n"
-    "         the last for a copy, whose line may be in the input or in any\n"
-    "         file it included, so no file is named\n"
+    "         a copy's message names the file of the node copied\n"
     "  json   one object per line:\n"
     "           {\"file\":\"FILE\",\"line\":N,\"severity\":\"error\",\"message\":\"TEXT\"}\n"
     "         severity error, warning or note; file and line null when unknown\n"
+    "gnu and json (and plain with --hints) follow a message that refuses a name\n"
+    "with a note naming the near names (\"did you mean ...?\"), and print the\n"
+    "identical messages of a LOOP's repetitions once with \"note: repeated N\n"
+    "times\" (json: each, the first with \"repeat\":N).\n"
     "\n"
     "An export (glTF 2.0, STL, OBJ, X3D) shows exactly the scene the VRML 1.0\n"
     "result describes.  .gltf embeds its data; .obj writes NAME.mtl and its\n"
@@ -115,6 +122,7 @@ const char kUsageText[] =
     "  lumeric -o molecule.glb examples/molecule.vlm\n"
     "  lumeric --format stl --tessellation 64 -o - examples/molecule.vlm > m.stl\n"
     "  lumeric --check --message-format gnu examples/expressions.vlm\n"
+    "  lumeric --watch --hints -o molecule.glb examples/molecule.vlm\n"
     "  lumeric -D Params:size=2.5 --deps scene.d -o scene.wrl scene.vlm\n"
     "  lumeric --check --stdin-name mk/scene.vlm -I parts - < mk/scene.vlm\n"
     "The examples are installed in share/doc/lumeric/examples below the prefix.\n";
@@ -306,6 +314,8 @@ bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& err
         if (!takeSize(argc, argv, i, line.limits.maxMemory, error)) return false;
       } else if (arg == "--confine") {
         line.limits.confine = true;
+      } else if (arg == "--watch" || arg == "--hints") {
+        (arg == "--watch" ? line.watch : line.hints) = true;
       } else if (arg.compare(0, 2, "-W") == 0) {
         std::string which;
         if (!takeJoinable(argc, argv, i, "-W", which, error) || !takeWarning(which, line, error)) return false;
@@ -374,6 +384,10 @@ bool parseCommandLine(int argc, char** argv, CommandLine& line, std::string& err
   // other extension keeps VRML 1.0.
   if (!formatSet && line.outputSet && line.output != "-" && !exportFormatOfPath(line.output, line.format)) {
     line.format = ExportFormat::kWrl;
+  }
+  if (line.watch && line.readsStandardInput()) {
+    error = "--watch needs an INPUT file, not -";
+    return false;
   }
   if (!typeSet) line.fileType = fileTypeOf(line.inputName());
   return true;

@@ -33,6 +33,8 @@ struct CommandLine {
   // -o names an export format.
   ExportFormat format = ExportFormat::kWrl;
   int tessellation = 0;  // --tessellation; 0: as Complexity says
+  bool watch = false;    // --watch: run again whenever a file read changes
+  bool hints = false;    // --hints: plain messages get hints and folding too
 
   bool readsStandardInput() const { return input == "-"; }
   // --check, --lint and --parameters write no translation.

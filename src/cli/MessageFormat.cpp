@@ -78,15 +78,16 @@ std::string gnuLine(const MessageParts& parts) {
   return "lumeric: " + severity + ": " + parts.text;
 }
 
-std::string jsonLine(const MessageParts& parts) {
+std::string jsonLine(const MessageParts& parts, long repeat = 1) {
   std::string line = "{\"file\":";
   line += parts.hasFile ? "\"" + jsonEscape(parts.file) + "\"" : "null";
   line += ",\"line\":";
   line += parts.hasLine ? std::to_string(parts.line) : "null";
   line += ",\"severity\":\"";
   line += severityName(parts.severity);
-  line += "\",\"message\":\"" + jsonEscape(parts.text) + "\"}";
-  return line;
+  line += "\",\"message\":\"" + jsonEscape(parts.text) + "\"";
+  if (repeat > 1) line += ",\"repeat\":" + std::to_string(repeat);
+  return line + "}";
 }
 
 // Length of the well-formed UTF-8 sequence at `pos`, or 0 when there is none.
@@ -159,6 +160,28 @@ std::string formatMessage(MessageFormat format, const std::string& message, int 
       return jsonLine(splitMessage(message, flag)) + "\n";
   }
   return message + "\n";
+}
+
+std::string formatParts(MessageFormat format, const std::string& message, const MessageParts& parts, long repeat) {
+  switch (format) {
+    case MessageFormat::kPlain:
+      return (parts.severity == MessageParts::kError ? "error: " : "") + message + "\n";
+    case MessageFormat::kGnu:
+      return gnuLine(parts) + "\n";
+    case MessageFormat::kJson:
+      return jsonLine(parts, repeat) + "\n";
+  }
+  return message + "\n";
+}
+
+std::string noteLine(MessageFormat format, const MessageParts& at, const std::string& text) {
+  MessageParts note = at;
+  note.severity = MessageParts::kNote;
+  note.text = text;
+  // A copy named by its line alone keeps the line out of the note, which
+  // is about the message just printed.
+  if (format == MessageFormat::kGnu && !note.hasFile) note.hasLine = false;
+  return format == MessageFormat::kPlain ? "note: " + text + "\n" : formatParts(format, text, note);
 }
 
 std::string jsonEscape(const std::string& text) {

@@ -38,6 +38,16 @@ MessageParts splitMessage(const std::string& message, int flag);
 // The line the command prints for one message, line end included.
 std::string formatMessage(MessageFormat format, const std::string& message, int flag);
 
+// The same from the message already taken apart (its parts may have been
+// completed, as with the file of a copy); with `repeat` above 1 json adds
+// "repeat":N, the number of identical messages this one stands for.
+std::string formatParts(MessageFormat format, const std::string& message, const MessageParts& parts,
+                        long repeat = 1);
+
+// A note at the position of the message `at`: "note: TEXT" in plain, at
+// `at`'s file and line in gnu and json.
+std::string noteLine(MessageFormat format, const MessageParts& at, const std::string& text);
+
 // `text` as the contents of a JSON string (without the quotation marks).
 // Bytes that are not UTF-8 are taken as Latin-1 characters, so the result
 // is always valid JSON and keeps every byte's value.

@@ -1,6 +1,8 @@
 // The lumeric command: options in, one library call (a translation or an
-// export), exit status out.
+// export), exit status out; with --watch, one call after every change.
 #include <cerrno>
+#include <chrono>
+#include <ctime>
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -8,6 +10,7 @@
 
 #include "cli/CommandLine.h"
 #include "cli/Dependencies.h"
+#include "cli/FileWatch.h"
 #include "cli/StderrView.h"
 #include "core/FileAccess.h"
 #include "core/OutputFile.h"
@@ -62,25 +65,30 @@ bool finishDependencies(lumeric::OutputFile& deps, const lumeric::CommandLine& l
   return deps.commit(written ? 0 : EIO, errorNumber) == OutputFile::kReplaced;
 }
 
-}  // namespace
+// The summary line --watch prints after each run: the time of day, the
+// nodes written, the errors and warnings, and how long the run took.
+void printSummary(const lumeric::CommandLine& line, const lumeric::StderrView& view, long nodes, long long ms) {
+  const std::time_t now = std::time(nullptr);
+  char clock[16] = "";
+  std::strftime(clock, sizeof clock, "%H:%M:%S", std::localtime(&now));
+  const int errors = view.errorCount();
+  const int warnings = view.warningCount();
+  if (line.messageFormat == lumeric::MessageFormat::kJson) {
+    std::fprintf(stderr, "{\"summary\":{\"time\":\"%s\",\"nodes\":%ld,\"errors\":%d,\"warnings\":%d,\"ms\":%lld}}\n",
+                 clock, nodes, errors, warnings, ms);
+  } else {
+    std::fprintf(stderr, "lumeric: [%s] %ld node%s written, %d error%s, %d warning%s (%lld ms)\n", clock, nodes,
+                 nodes == 1 ? "" : "s", errors, errors == 1 ? "" : "s", warnings, warnings == 1 ? "" : "s", ms);
+  }
+  std::fflush(stderr);
+}
 
-int main(int argc, char** argv) {
+// One translation (or check, lint or export) as the command line asks.
+// Returns the exit status; `additions` receives what the run read and
+// wrote.
+int runOnce(const lumeric::CommandLine& line, lumeric::StderrView& view, lumeric::RunAdditions& additions) {
   using namespace lumeric;
-  CommandLine line;
-  std::string error;
-  if (!parseCommandLine(argc, argv, line, error)) return usageError(error);
-  if (line.action == CommandLine::kHelp) {
-    std::fputs(kUsageText, stdout);
-    return 0;
-  }
-  if (line.action == CommandLine::kVersion) {
-    std::printf("lumeric %s\n", LUMERIC_VERSION);
-    return 0;
-  }
-
-  gWarn = line.warnings;
   theRun.limits = line.limits;
-  StderrView view(line.messageFormat);
   const std::string inputName = line.inputName();
   std::vector<char> input(inputName.begin(), inputName.end());
   input.push_back('\0');
@@ -95,7 +103,6 @@ int main(int argc, char** argv) {
   if (!line.depsFile.empty() && deps.open(line.depsFile.c_str(), errorNumber) == nullptr) {
     return usageError("cannot write " + line.depsFile + ": " + std::strerror(errorNumber));
   }
-  RunAdditions additions;
   additions.overrides = line.overrides;
   additions.includeDirectories = line.includeDirectories;
   if (line.readsStandardInput()) additions.inputStream = stdin;
@@ -136,6 +143,7 @@ int main(int argc, char** argv) {
     translateScene(input.data(), &view, directory.data(), outputName, line.outputSet ? &output : nullptr,
                    &additions);
   }
+  view.finish();
   if (!additions.overrideError.empty()) {
     deps.abandon();
     return usageError(additions.overrideError);
@@ -144,6 +152,61 @@ int main(int argc, char** argv) {
       !finishDependencies(deps, line, line.outputSet ? line.output : outputName, additions, view)) {
     return usageError("cannot write " + line.depsFile);
   }
+  view.finish();
   const int problems = view.errorCount() + (line.warningsAreErrors ? view.warningCount() : 0);
   return problems > 0 ? 1 : 0;
+}
+
+// --watch: runs again after every change to a file the last run read, until
+// SIGINT or SIGTERM; ends with the last run's status.  A usage error ends it
+// only in the first run: later, an edit (a -D whose node is gone) may have
+// caused it, and the next edit may mend it.
+int watch(const lumeric::CommandLine& line, lumeric::StderrView& view) {
+  using namespace lumeric;
+  FileWatch files;
+  std::string error;
+  if (!files.usable(error)) return usageError(error);
+  const int stop = catchStopSignals();
+  if (stop < 0) return usageError(std::string("cannot catch signals: ") + std::strerror(errno));
+  files.follow(openedInput(line));
+  constexpr int kQuietMs = 100;
+  int status = 0;
+  bool first = true;
+  do {
+    view.resetCounts();
+    RunAdditions additions;
+    const auto start = std::chrono::steady_clock::now();
+    status = runOnce(line, view, additions);
+    const auto elapsed = std::chrono::steady_clock::now() - start;
+    if (status == 2 && first) return status;
+    first = false;
+    printSummary(line, view, additions.nodesWritten,
+                 std::chrono::duration_cast<std::chrono::milliseconds>(elapsed).count());
+    std::vector<std::string> read = openedInput(line);
+    read.insert(read.end(), additions.includedFiles.begin(), additions.includedFiles.end());
+    files.follow(read);
+  } while (!stopRequested() && files.wait(stop, kQuietMs) == FileWatch::kChanged);
+  return status;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  using namespace lumeric;
+  CommandLine line;
+  std::string error;
+  if (!parseCommandLine(argc, argv, line, error)) return usageError(error);
+  if (line.action == CommandLine::kHelp) {
+    std::fputs(kUsageText, stdout);
+    return 0;
+  }
+  if (line.action == CommandLine::kVersion) {
+    std::printf("lumeric %s\n", LUMERIC_VERSION);
+    return 0;
+  }
+  gWarn = line.warnings;
+  StderrView view(line.messageFormat, stderr, line.hints);
+  if (line.watch) return watch(line, view);
+  RunAdditions additions;
+  return runOnce(line, view, additions);
 }

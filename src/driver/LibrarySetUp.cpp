@@ -29,6 +29,7 @@ void installLibraryOperations() {
   operations.createStatement = createStatement;
   operations.createField = createField;
   operations.evaluateNameText = nameTextOf;
+  operations.collectNodeClassNames = collectNodeClassNames;
   installSceneOperations(operations);
   theRun.atEndOfRun(QvNodeClass::destroyAllTables);
   theRun.atEndOfRun(freeAllTerms);

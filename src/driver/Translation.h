@@ -46,6 +46,9 @@ struct RunAdditions {
   FILE* inputStream = nullptr;
   // Receives every file the run read (the input, every INCLUDE).
   std::vector<FileIdentity> filesRead;
+  // Receives the number of nodes the translation wrote (0 when it wrote
+  // nothing).
+  long nodesWritten = 0;
 };
 
 int translateScene(const char* inputPath, CReportErrorView* view, const char* directory, char* outputNameOut,

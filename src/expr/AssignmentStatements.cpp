@@ -3,6 +3,7 @@
 #include "core/QvContext.h"
 #include "expr/FieldReferences.h"
 #include "expr/TermConversions.h"
+#include "scene/FieldNameCandidates.h"
 #include "scene/QvField.h"
 #include "scene/SceneMessages.h"
 
@@ -12,7 +13,11 @@ namespace {
 
 QvField* targetField(const char* nodeName, const char* fieldName, FieldExpression* at) {
   QvField* field = findNodeField(nodeName, fieldName);
-  if (field == nullptr) reportAtExpression(at, "Field %s:%s not found", nodeName, fieldName);
+  if (field == nullptr) {
+    const FieldNameCandidates meant(NameCandidates::kFieldInScope, fieldName, findNamedNode(nodeName));
+    OfferedCandidates offered(meant);
+    reportAtExpression(at, "Field %s:%s not found", nodeName, fieldName);
+  }
   return field;
 }
 

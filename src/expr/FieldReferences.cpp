@@ -11,6 +11,7 @@
 #include "expr/TermArena.h"
 #include "expr/TermConversions.h"
 #include "scene/FieldExpression.h"
+#include "scene/FieldNameCandidates.h"
 #include "scene/QvField.h"
 #include "scene/QvFieldTable.h"
 #include "scene/NodeVisit.h"
@@ -82,9 +83,21 @@ Term* keepOnly(Term* value, const TermArena::Mark& mark) {
   return value;  // a matrix: a row of a list of rows is a vector
 }
 
+// Where the reference looked, for the hint of "Field X not found": the
+// fields of `node` and, with `inScope`, those of the enclosing nodes.
+struct Searched {
+  const char* name;
+  QvNode* node;
+  bool inScope;
+};
+
 Term* valueOf(QvField* field, const char* label, const Selection& selection, bool plainIsDefined,
-              FieldExpression* at) {
-  if (field == nullptr) return reportAtExpression(at, "Field %s not found", label);
+              FieldExpression* at, const Searched& searched) {
+  if (field == nullptr) {
+    const FieldNameCandidates meant(NameCandidates::kFieldInScope, searched.name, searched.node, searched.inScope);
+    OfferedCandidates offered(meant);
+    return reportAtExpression(at, "Field %s not found", label);
+  }
   const TermArena::Mark mark = termArena().mark();
   Term* value = field->GetLumericValue(selection.i, selection.j, at);
   if (value == nullptr) {
@@ -109,10 +122,12 @@ QvField* findFieldInScope(QvAtom name) {
   return nullptr;
 }
 
+QvNode* findNamedNode(const char* nodeName) {
+  return theRun.defNames != nullptr ? theRun.defNames->findName(QvAtom(nodeName)) : nullptr;
+}
+
 QvField* findNodeField(const char* nodeName, const char* fieldName) {
-  if (theRun.defNames == nullptr) return nullptr;
-  QvNode* node = theRun.defNames->findName(QvAtom(nodeName));
-  return findLocalField(node, QvAtom(fieldName));
+  return findLocalField(findNamedNode(nodeName), QvAtom(fieldName));
 }
 
 Term* referToField(const char* name, Term* first, Term* second, FieldExpression* at) {
@@ -122,13 +137,13 @@ Term* referToField(const char* name, Term* first, Term* second, FieldExpression*
   QvField* field = findLocalField(at != nullptr ? at->owner : nullptr, atom);
   const bool inScope = field == nullptr;
   if (inScope) field = findFieldInScope(atom);
-  return valueOf(field, name, selection, inScope, at);
+  return valueOf(field, name, selection, inScope, at, {name, at != nullptr ? at->owner : nullptr, true});
 }
 
 Term* referToFieldInScope(const char* name, Term* first, Term* second, FieldExpression* at) {
   Selection selection;
   if (!selectionFrom(first, second, &selection, at)) return nullptr;
-  return valueOf(findFieldInScope(QvAtom(name)), name, selection, true, at);
+  return valueOf(findFieldInScope(QvAtom(name)), name, selection, true, at, {name, nullptr, true});
 }
 
 Term* referToNodeField(const char* nodeName, const char* fieldName, Term* first, Term* second,
@@ -137,12 +152,17 @@ Term* referToNodeField(const char* nodeName, const char* fieldName, Term* first,
   if (!selectionFrom(first, second, &selection, at)) return nullptr;
   char label[QvContext::kMessageLimit + 1];
   std::snprintf(label, sizeof label, "%s:%s", nodeName, fieldName);
-  return valueOf(findNodeField(nodeName, fieldName), label, selection, true, at);
+  QvNode* node = findNamedNode(nodeName);
+  return valueOf(findLocalField(node, QvAtom(fieldName)), label, selection, true, at, {fieldName, node, false});
 }
 
 Term* localFieldValue(QvNode* node, const char* name, FieldExpression* at) {
   QvField* field = findLocalField(node, QvAtom(name));
-  if (field == nullptr) return reportAtExpression(at, "Local Field %s not found", name);
+  if (field == nullptr) {
+    const FieldNameCandidates meant(NameCandidates::kFieldInScope, name, node);
+    OfferedCandidates offered(meant);
+    return reportAtExpression(at, "Local Field %s not found", name);
+  }
   Term* value = field->GetLumericValue(-1, -1, at);
   if (value == nullptr) reportAtExpression(at, "%s is not a valid element", name);
   return value;

@@ -23,6 +23,8 @@ QvField* findFieldInScope(QvAtom name);
 // The field of the node most recently defined under `nodeName` in the DEF
 // table of the current input.
 QvField* findNodeField(const char* nodeName, const char* fieldName);
+// The node most recently defined under `nodeName` there, or null.
+QvNode* findNamedNode(const char* nodeName);
 
 // The reference forms.  `first` and `second` are the index terms, null when
 // not written; a non-scalar index posts "Cannot use a term as an index".

@@ -3,6 +3,9 @@
 #ifndef LUMERIC_NODES_NODEFACTORIES_H
 #define LUMERIC_NODES_NODEFACTORIES_H
 
+#include <string>
+#include <vector>
+
 namespace lumeric {
 
 class QvNode;
@@ -15,6 +18,10 @@ QvNode* createExtensionNode(const char* className);
 // The statement of a keyword (USE, SET, APPEND, DECLARE, OUTPUT_TO,
 // INCLUDE, PRECISION, PRINT), or null.
 QvNode* createStatement(const char* keyword);
+// Appends the names of the extension classes.
+void collectExtensionClassNames(std::vector<std::string>& names);
+// Appends the names of the standard classes, then of the extension classes.
+void collectNodeClassNames(std::vector<std::string>& names);
 
 }  // namespace lumeric
 

@@ -88,4 +88,9 @@ QvNode* createStandardNode(const char* className) {
   return index.create(className);
 }
 
+void collectNodeClassNames(std::vector<std::string>& names) {
+  collectClassNames(kStandardClasses, names);
+  collectExtensionClassNames(names);
+}
+
 }  // namespace lumeric

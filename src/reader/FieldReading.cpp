@@ -5,6 +5,7 @@
 #include "core/QvAtom.h"
 #include "reader/QvSceneInput.h"
 #include "reader/ReadErrors.h"
+#include "scene/FieldNameCandidates.h"
 #include "scene/QvField.h"
 #include "scene/QvFieldTable.h"
 #include "scene/QvNode.h"
@@ -73,7 +74,11 @@ bool readFieldValues(QvSceneInput* in, QvNode* node, bool unknownIsError) {
     if (!in->readName(name, QvSceneInput::kLowerName) || name.isEmpty()) return true;
     QvField* field = table->findField(node, name);
     if (field == nullptr) {
-      if (unknownIsError) return readError(in, "Unknown field \"%s\"", name.text());
+      if (unknownIsError) {
+        FieldNameCandidates meant(NameCandidates::kField, name.text(), node);
+        OfferedCandidates offered(meant);
+        return readError(in, "Unknown field \"%s\"", name.text());
+      }
       in->putBackWord(name.text());
       return true;
     }

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/CharacterClasses.h"
+#include "core/MessageDetails.h"
 #include "core/QvContext.h"
 #include "core/RunState.h"
 #include "reader/FieldReading.h"
@@ -12,6 +13,7 @@
 #include "reader/QvUnknownNode.h"
 #include "reader/ReadErrors.h"
 #include "scene/FieldExpression.h"
+#include "scene/FieldNameCandidates.h"
 #include "scene/QvFieldTable.h"
 #include "scene/QvGroupNode.h"
 #include "scene/QvNode.h"
@@ -44,6 +46,28 @@ void stampPosition(QvNode* node, int line) {
   node->line = line;
   const char* file = theContext.topFile();
   if (file != nullptr) node->fileName = QvAtom(file);
+}
+
+// The node classes, for the hint of "Unknown class".
+class ClassCandidates : public NameCandidates {
+ public:
+  explicit ClassCandidates(const char* word) : NameCandidates(kClass, word) {}
+  void collect(std::vector<std::string>& names) const override {
+    if (sceneOperations().collectNodeClassNames != nullptr) sceneOperations().collectNodeClassNames(names);
+  }
+};
+
+// The closing brace of `node`.  A name met instead is usually a field name
+// written in another case (the reader takes field names from a lower-case
+// letter on), which the message offers as a detail.
+bool expectClosingBrace(QvSceneInput* in, QvNode* node) {
+  char c;
+  if (!in->readChar(c)) return readError(in, "Expected '%c'; got EOF", '}');
+  if (c == '}') return true;
+  const std::string word = isNameChar(c) ? c + in->peekNameRest() : std::string();
+  FieldNameCandidates meant(NameCandidates::kFieldCase, word.c_str(), node);
+  OfferedCandidates offered(meant);
+  return readError(in, "Expected '%c'; got '%c'", '}', c);
 }
 
 bool expectChar(QvSceneInput* in, char expected) {
@@ -109,7 +133,7 @@ bool readNodeBody(QvSceneInput* in, QvAtom typeName, int line, QvNode*& node) {
     skipToClosingBrace(in);
     return false;
   }
-  if (!expectChar(in, '}')) return false;
+  if (!expectClosingBrace(in, node)) return false;
   if (nameText != nullptr && nameText->hasText()) {
     nameText->line = node->line;
     nameText->owner = node;
@@ -167,7 +191,11 @@ QvNode* createNode(QvSceneInput* in, QvAtom typeName, int line) {
   if (node == nullptr) {
     std::string word;
     in->readString(word);
-    if (word != "fields") return readError(in, "Unknown class \"%s\"", typeName.text());
+    if (word != "fields") {
+      ClassCandidates meant(typeName.text());
+      OfferedCandidates offered(meant);
+      return readError(in, "Unknown class \"%s\"", typeName.text());
+    }
     node = new QvUnknownNode(typeName);
     in->putBackWord("fields");
     stampPosition(node, line);

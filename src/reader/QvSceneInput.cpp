@@ -149,6 +149,24 @@ void QvSceneInput::putBackWord(const char* text) {
   state_->putBackIndex = 0;
 }
 
+std::string QvSceneInput::peekNameRest() const {
+  const State& s = *state_;
+  std::string rest;
+  // Appends the name characters at the start of `from`; true when all
+  // `count` were, so that the name may go on after them.
+  auto take = [&rest](const char* from, size_t count) {
+    size_t k = 0;
+    for (; k < count && isNameChar(from[k]) && rest.size() < kMaxNameLength; ++k) rest += from[k];
+    return k == count;
+  };
+  if (s.putBackIndex >= 0 && static_cast<size_t>(s.putBackIndex) < s.putBack.size()) {
+    const size_t left = s.putBack.size() - static_cast<size_t>(s.putBackIndex);
+    if (!take(s.putBack.data() + s.putBackIndex, left)) return rest;
+  }
+  take(s.buffer.get() + s.position, s.end - s.position);
+  return rest;
+}
+
 bool QvSceneInput::eof() const { return state_->atEnd; }
 
 int QvSceneInput::getLine() const { return state_->line; }

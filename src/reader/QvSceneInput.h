@@ -79,6 +79,9 @@ class QvSceneInput {
   void putBackChar(char c);
   // The whole word is read again before the file; replaces a pending word.
   void putBackWord(const char* text);
+  // The name characters that follow, as far as they are already buffered
+  // (at most kMaxNameLength), without reading them.
+  std::string peekNameRest() const;
   // Whether a read has met the end of the file.
   bool eof() const;
 

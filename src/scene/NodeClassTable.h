@@ -3,8 +3,10 @@
 #define LUMERIC_SCENE_NODECLASSTABLE_H
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 namespace lumeric {
 
@@ -45,6 +47,12 @@ class NodeClassIndex {
  private:
   std::unordered_map<std::string_view, QvNode* (*)()> creators_;
 };
+
+// Appends the name of every class of `table`.
+template <size_t N>
+void collectClassNames(const NodeClassEntry (&table)[N], std::vector<std::string>& names) {
+  for (const NodeClassEntry& entry : table) names.push_back(entry.name);
+}
 
 }  // namespace lumeric
 

@@ -79,8 +79,14 @@ void QvNode::setNameExpression(FieldExpression* expression) {
   nameExpression = expression;
 }
 
-void QvNode::initCopy(QvNode* copy) {
+void QvNode::copyPlaceInto(QvNode* copy) const {
   copy->line = line;
+  copy->fileName = fileName;
+  copy->isCopy = true;
+}
+
+void QvNode::initCopy(QvNode* copy) {
+  copyPlaceInto(copy);
   if (hasName()) {
     // The copy is found under the name as computed (the text a name
     // expression elsewhere builds); only its own name is repaired.

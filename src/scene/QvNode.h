@@ -78,6 +78,9 @@ class QvNode {
   int32_t isBuiltIn = 1;
   QvNode* parent = nullptr;
   int32_t line = -1;
+  // A copy keeps the file of the node it was made from, but its messages
+  // name only the line (the details of a message tell the file).
+  bool isCopy = false;
   QvAtom fileName;
   int32_t refCount = 0;
   // Where the node's entry is in the registry of named nodes (-1: none).
@@ -93,6 +96,8 @@ class QvNode {
   // Names the copy as this node is named, gives it this node's line and
   // copies every field of the class table with its evaluated value.
   void initCopy(QvNode* copy);
+  // Gives `copy` this node's line and file, marked as a copy's.
+  void copyPlaceInto(QvNode* copy) const;
   // check() of every field of the node's table.
   void checkFields();
   // Every field of the node's table: the indented name, then the value.

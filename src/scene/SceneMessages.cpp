@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "core/MessageDetails.h"
 #include "core/QvContext.h"
 #include "core/VariadicArguments.h"
 #include "scene/FieldExpression.h"
@@ -11,14 +12,24 @@ namespace lumeric {
 
 namespace {
 
+// The file a message at `node` names: none for a copy, whose original's
+// file goes with the message as a detail (core/MessageDetails.h).
+void postInFileOf(const QvNode* node, int flag, bool hasPlace, int line, const char* format, va_list args) {
+  if (node == nullptr || !node->isCopy) {
+    theContext.postAt(flag, hasPlace, node != nullptr ? node->fileName.text() : nullptr, line, format, args);
+    return;
+  }
+  CopiedFromFile detail(node->fileName.isEmpty() ? nullptr : node->fileName.text());
+  theContext.postAt(flag, hasPlace, nullptr, line, format, args);
+}
+
 void postAtNode(int flag, const QvNode* node, const char* format, va_list args) {
-  const char* file = node != nullptr ? node->fileName.text() : nullptr;
-  theContext.postAt(flag, node != nullptr, file, node != nullptr ? node->line : 0, format, args);
+  postInFileOf(node, flag, node != nullptr, node != nullptr ? node->line : 0, format, args);
 }
 
 void postAtExpression(int flag, const FieldExpression* expr, const char* format, va_list args) {
-  const char* file = expr != nullptr && expr->owner != nullptr ? expr->owner->fileName.text() : nullptr;
-  theContext.postAt(flag, expr != nullptr, file, expr != nullptr ? expr->line : 0, format, args);
+  postInFileOf(expr != nullptr ? expr->owner : nullptr, flag, expr != nullptr, expr != nullptr ? expr->line : 0,
+               format, args);
 }
 
 }  // namespace

@@ -6,6 +6,9 @@
 #ifndef LUMERIC_SCENE_SCENEOPERATIONS_H
 #define LUMERIC_SCENE_SCENEOPERATIONS_H
 
+#include <string>
+#include <vector>
+
 namespace lumeric {
 
 class FieldExpression;
@@ -27,6 +30,8 @@ struct SceneOperations {
   // The text a name expression gives, or null when it gives no string
   // (the expression has reported why).
   const char* (*evaluateNameText)(FieldExpression* expression) = nullptr;
+  // Appends the name of every node class (standard, then extension).
+  void (*collectNodeClassNames)(std::vector<std::string>& names) = nullptr;
 };
 
 // The installed operations.  Every member is set before a scene is read.

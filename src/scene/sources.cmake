@@ -2,6 +2,7 @@ set(LUMERIC_SCENE_SOURCES
   src/scene/CopyBudget.cpp
   src/scene/MemoryBudget.cpp
   src/scene/FieldExpression.cpp
+  src/scene/FieldNameCandidates.cpp
   src/scene/NodeVisit.cpp
   src/scene/QvDeclaredFieldsNode.cpp
   src/scene/QvDefTable.cpp

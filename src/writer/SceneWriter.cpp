@@ -88,6 +88,7 @@ void SceneWriter::openNode(const char* name, const char* className) {
     line("%s {\n", className);
   }
   ++level_;
+  ++nodesOpened_;
 }
 
 void SceneWriter::closeNode(After after) {

@@ -80,6 +80,8 @@ class SceneWriter {
   enum class After { kEmptyLine, kNothing };
   void openNode(const char* name, const char* className);
   void closeNode(After after = After::kEmptyLine);
+  // The number of node frames opened so far.
+  long nodesOpened() const { return nodesOpened_; }
 
   // A value list of `count` items after the field name, as `layout` says;
   // writeItem(i) writes item i through this writer.
@@ -101,6 +103,7 @@ class SceneWriter {
 
   FILE* stream_;
   int level_ = 0;
+  long nodesOpened_ = 0;
   size_t used_ = 0;
   int writeError_ = 0;
   char buffer_[4096];

@@ -121,12 +121,14 @@ TEST(MessageFormatRun, GnuAndJsonOnARealScene) {
   EXPECT_EQ(gnu.err,
             "we\"ird.vlm:3: warning: Unknown \"Foo\" node found\n"
             "we\"ird.vlm:6: error: Unknown class \"Bar\"\n"
+            "we\"ird.vlm:6: note: did you mean \"Ball\"?\n"  // within two edits
             "we\"ird.vlm:5: note: B:width*2 is 4\n"  // PRINT runs in both passes
             "we\"ird.vlm:5: note: B:width*2 is 4\n");
   CommandResult json = runLumeric({"--message-format", "json", "-o", "-", "we\"ird.vlm"}, dir.path());
   EXPECT_EQ(json.status, 1);
   EXPECT_EQ(json.err,
             "{\"file\":\"we\\\"ird.vlm\",\"line\":6,\"severity\":\"error\",\"message\":\"Unknown class \\\"Bar\\\"\"}\n"
+            "{\"file\":\"we\\\"ird.vlm\",\"line\":6,\"severity\":\"note\",\"message\":\"did you mean \\\"Ball\\\"?\"}\n"
             "{\"file\":\"we\\\"ird.vlm\",\"line\":5,\"severity\":\"note\",\"message\":\"B:width*2 is 4\"}\n"
             "{\"file\":\"we\\\"ird.vlm\",\"line\":5,\"severity\":\"note\",\"message\":\"B:width*2 is 4\"}\n");
   EXPECT_EQ(gnu.out, json.out);

@@ -35,7 +35,7 @@ TEST(StandardInput, TheNameGivenPlacesMessagesIncludesAndDependencies) {
                                   "-o", "scene.wrl", "-"},
                                  dir.path(), "cat mk/scene.vlm | ");
   EXPECT_EQ(run.status, 1);
-  EXPECT_EQ(run.err, "mk/scene.vlm:4: error: Unknown class \"Foo\"\n");
+  EXPECT_EQ(run.err, "mk/scene.vlm:4: error: Unknown class \"Foo\"\nmk/scene.vlm:4: note: did you mean \"LOD\" or \"LOOP\"?\n");
   EXPECT_TRUE(contains(dir.read("scene.wrl"), "width 5\n"));
   EXPECT_EQ(dir.read("scene.d"), "scene.wrl: mk/scene.vlm mk/cup.wrl\n\nmk/cup.wrl:\n");
 

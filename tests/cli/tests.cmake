@@ -3,7 +3,10 @@ set(LUMERIC_CLI_TESTS
   cli/ConfineTest.cpp
   cli/HelpAndManualTest.cpp
   cli/IncludeSearchTest.cpp
+  cli/HintsTest.cpp
   cli/LintTest.cpp
+  cli/RepeatedMessagesTest.cpp
+  cli/WatchTest.cpp
   cli/MessageFormatTest.cpp
   cli/OddInputsTest.cpp
   cli/OutputFilesTest.cpp

@@ -1,5 +1,6 @@
 #include "expr/functions/NamedColours.h"
 
+#include "core/MessageDetails.h"
 #include "expr/functions/FunctionMessages.h"
 #include "expr/functions/NameCase.h"
 
@@ -20,6 +21,15 @@ const NamedColour kColours[] = {
     {"DarkGrey", 0.25, 0.25, 0.25}, {"DarkGray", 0.25, 0.25, 0.25},
 };
 
+// The colour names, for the hint of "Color C not found".
+class ColourCandidates : public NameCandidates {
+ public:
+  explicit ColourCandidates(const char* word) : NameCandidates(kColour, word) {}
+  void collect(std::vector<std::string>& names) const override {
+    for (const NamedColour& c : kColours) names.push_back(c.name);
+  }
+};
+
 Term* colourTerm(double red, double green, double blue) {
   VectorTerm* colour = VectorTerm::make(3);
   colour->elements[0] = red;
@@ -37,6 +47,8 @@ Term* namedColour(Term* const* arguments, FieldExpression* at) {
   for (const NamedColour& c : kColours) {
     if (sameNameIgnoringCase(name, c.name)) return colourTerm(c.red, c.green, c.blue);
   }
+  const ColourCandidates meant(name);
+  OfferedCandidates offered(meant);
   return refuseCall(at, "Color %s not found", name);
 }
 

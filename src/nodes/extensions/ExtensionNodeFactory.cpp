@@ -49,4 +49,6 @@ QvNode* createStatement(const char* keyword) {
   return index.create(keyword);
 }
 
+void collectExtensionClassNames(std::vector<std::string>& names) { collectClassNames(kExtensionNodes, names); }
+
 }  // namespace lumeric

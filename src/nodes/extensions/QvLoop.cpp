@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "core/MessageDetails.h"
 #include "scene/CopyBudget.h"
 #include "expr/Term.h"
 #include "nodes/extensions/QvParameters.h"
@@ -72,6 +73,7 @@ int QvLoop::insertionIndex(QvGroupNode* target) {
 }
 
 void QvLoop::repeat(const Bounds& bounds, QvGroupNode* target) {
+  RepetitionsOf repetitions(this);
   int index = insertionIndex(target);
   ScalarTerm* variable = ScalarTerm::make(bounds.start);
   // The containers are gathered and put into `target` at once: inserting

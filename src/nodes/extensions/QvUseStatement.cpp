@@ -28,7 +28,7 @@ void QvUseStatement::evaluate(QvGroupNode* parentGroup, bool copy) {
   NodeVisit visit(this);
   if (!copy || parentGroup == nullptr || !admitCopy(this)) return;
   QvUseStatement* duplicate = new QvUseStatement();
-  duplicate->line = line;
+  copyPlaceInto(duplicate);
   duplicate->expression_ = expression_;
   duplicate->expression_.owner = duplicate;
   parentGroup->addChild(duplicate);
