@@ -65,6 +65,7 @@ bench: release-bench
 	bench/run.sh $(RELEASE_DIR)
 	bench/generators.py $(RELEASE_DIR)/lumeric
 	bench/export.py $(RELEASE_DIR)/lumeric
+	bench/copies.py $(RELEASE_DIR)/lumeric
 
 # The generators against OpenSCAD and POV-Ray, and their growth with size.
 bench-generators: release
