@@ -107,7 +107,8 @@ class RunState {
   // Whether the work of large results helped spend it: then, as past the
   // node and memory budgets, no further copy is made.
   bool workBudgetSpent = false;
-  // Bytes of copied and computed values now alive (limits.maxMemory), and
+  // Bytes of copied and computed values now alive, with a fixed share for
+  // every copied node (limits.maxMemory), and
   // whether the budget's message has been posted.
   long long valueBytes = 0;
   bool memoryBudgetSpent = false;

@@ -9,6 +9,10 @@ namespace lumeric {
 
 class QvNode;
 
+// What one copied node counts against the memory budget besides its list
+// values and texts: about what a node with a few fields takes.
+constexpr long long kBytesPerCopy = 256;
+
 // Counts one copy made while evaluating `at`.  False when this budget, the
 // memory budget (MemoryBudget.h) or the evaluation budget with the work of
 // large results in it (expr/WorkBudget.h) is spent; the first refusal posts the

@@ -1,6 +1,7 @@
 // The budget of memory a run spends on copied and computed values (the
 // elements of list fields, the texts of field expressions, the terms of
-// evaluations; theRun.valueBytes against theRun.limits.maxMemory).  Twenty
+// evaluations, and a fixed share for every copied node (CopyBudget.h);
+// theRun.valueBytes against theRun.limits.maxMemory).  Twenty
 // copies of a large surface take hundreds of megabytes, so the node budget
 // alone does not keep a scene within memory.  Past this budget no further
 // copy is made, no further field reference is evaluated (it reads as 0) and
