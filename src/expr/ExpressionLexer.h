@@ -3,7 +3,7 @@
 #ifndef LUMERIC_EXPR_EXPRESSIONLEXER_H
 #define LUMERIC_EXPR_EXPRESSIONLEXER_H
 
-#include "ExpressionGrammar.h"  // generated from expr/ExpressionGrammar.y
+#include "expr/ExpressionGrammar.h"  // generated from ExpressionGrammar.y
 #include "expr/TokenValue.h"
 
 namespace lumeric {

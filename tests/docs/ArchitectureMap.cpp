@@ -240,6 +240,10 @@ std::vector<std::string> forbiddenIncludes(const LayerMap& map, const std::strin
     std::smatch match;
     if (!std::regex_search(line, match, kInclude)) continue;
     const std::string header = match[1];
+    if (header.find('/') == std::string::npos) {
+      forbidden.push_back(path + ":" + std::to_string(lineNumber) + ": includes " + header + " without its folder");
+      continue;
+    }
     const Layer* target = layerOfFile(map, header);
     if (target == nullptr || target == own || own->mayInclude.count(target->number) != 0) continue;
     bool excused = false;

@@ -32,6 +32,8 @@ LayerMap readLayerMap(const std::string& markdown, std::vector<std::string>& pro
 // The includes of `text` (the file at `path` from the top of the tree,
 // "src/expr/Term.cpp" or "web/engine/Engine.cpp") that the map forbids,
 // each as "path:line: includes header".  Files of no layer include freely.
+// A header is always named with its folder ("expr/Term.h", the generated
+// "expr/ExpressionGrammar.h" too).
 std::vector<std::string> forbiddenIncludes(const LayerMap& map, const std::string& path, const std::string& text);
 
 // Every text the document puts in backticks outside fenced blocks, once.

@@ -77,13 +77,15 @@ TEST(ArchitectureMap, FindsIncludesAgainstTheTable) {
       {"src/scene/A.cpp", "lumeric/lumeric.h", false}, {"web/engine/Engine.cpp", "cli/Format.h", false},
       {"web/engine/Other.cpp", "cli/Format.h", true}, {"web/engine/Engine.cpp", "cli/Other.h", true},
       {"src/cli/main.cpp", "driver/Run.h", false},    {"tests/Any.cpp", "cli/Format.h", false},
+      {"src/expr/Lexer.h", "Grammar.h", true},
   };
   for (const Case& c : cases) {
     const std::string text = std::string("// one\n#include <vector>\n#include \"") + c.include + "\"\n";
     std::vector<std::string> found = forbiddenIncludes(map, c.path, text);
     if (c.forbidden) {
       ASSERT_EQ(found.size(), 1u) << c.path << " including " << c.include;
-      EXPECT_EQ(found[0], std::string(c.path) + ":3: includes " + c.include);
+      EXPECT_EQ(found[0].compare(0, found[0].find(" without"), std::string(c.path) + ":3: includes " + c.include), 0)
+          << found[0];
     } else {
       EXPECT_TRUE(found.empty()) << c.path << " including " << c.include;
     }
