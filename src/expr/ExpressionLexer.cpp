@@ -355,8 +355,8 @@ int ExpressionLexer::scanName(const char* start) {
   return keywordOrName(start, length);
 }
 
-const char* ExpressionLexer::describeToken(int code) {
-  static char text[32];
+std::string ExpressionLexer::describeToken(int code) {
+  char text[32];
   switch (code) {
     case kEndToken:
       return "[end of file]";

@@ -3,6 +3,8 @@
 #ifndef LUMERIC_EXPR_EXPRESSIONLEXER_H
 #define LUMERIC_EXPR_EXPRESSIONLEXER_H
 
+#include <string>
+
 #include "expr/ExpressionGrammar.h"  // generated from ExpressionGrammar.y
 #include "expr/TokenValue.h"
 
@@ -55,9 +57,8 @@ class ExpressionLexer {
   // At the end of the text, or at a control character, every call gives 0.
   int nextToken();
 
-  // The text naming a token in messages.  It lives in a static buffer that
-  // the next call overwrites.
-  static const char* describeToken(int code);
+  // The text naming a token in messages.
+  static std::string describeToken(int code);
 
   // True when the whole text is one decimal NUMBER, with at most one sign in
   // front: the value is then that of the text's parse, computed without

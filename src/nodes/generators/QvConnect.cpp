@@ -89,8 +89,9 @@ void QvConnect::writeCylinderBetween(SceneWriter& out, const double a[3], const 
   orientationBetween(bottom, top, a, b, rotation, nullptr);
   SeparatorBlock block(out, getName());
   writeChildren(out);
-  writeTransform(out, "", middle, rotation, nullptr, nullptr, nullptr);
-  writeCylinder(out, "", "", radius, d);
+  const GeometryOutput to{out, this};
+  writeTransform(to, "", middle, rotation, nullptr, nullptr, nullptr);
+  writeCylinder(to, "", "", radius, d);
 }
 
 }  // namespace lumeric

@@ -74,8 +74,9 @@ void QvWall::write(SceneWriter& out) {
   if (mesh == nullptr) return;
   mesh->thicken(placement, width);
   const char* name = getName();
-  writeCoordinate3(out, name, mesh->points());
-  writeIndexedFaceSet(out, name, mesh->faces());
+  const GeometryOutput to{out, this};
+  writeCoordinate3(to, name, mesh->points());
+  writeIndexedFaceSet(to, name, mesh->faces());
   writeChildren(out);
 }
 
