@@ -2,6 +2,7 @@
 
 #include "core/RunState.h"
 #include "expr/Evaluation.h"
+#include "expr/NestedParse.h"
 #include "expr/Term.h"
 #include "fields/FieldFactory.h"
 #include "nodes/NodeFactories.h"
@@ -33,6 +34,7 @@ void installLibraryOperations() {
   theRun.atEndOfRun(QvNodeClass::destroyAllTables);
   theRun.atEndOfRun(freeAllTerms);
   theRun.atEndOfRun(clearNodeStack);
+  theRun.atEndOfRun(NestedParse::endRun);
 }
 
 }  // namespace lumeric

@@ -6,6 +6,7 @@
 
 #include "core/CharacterClasses.h"
 #include "core/QvContext.h"
+#include "core/LastingState.h"
 #include "core/RunState.h"
 #include "reader/FieldReading.h"
 #include "reader/QvSceneInput.h"

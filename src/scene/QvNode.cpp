@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/CharacterClasses.h"
+#include "core/LastingState.h"
 #include "core/RunState.h"
 #include "scene/FieldExpression.h"
 #include "scene/NodeVisit.h"

@@ -2,5 +2,4 @@ set(LUMERIC_CORE_TESTS
   core/FloatTextTest.cpp
   core/NumberTextTest.cpp
   core/QvContextTest.cpp
-  core/RoundingTest.cpp
 )

@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "cli/CommandLine.h"
+#include "core/LastingState.h"
 #include "core/RunState.h"
 #include "driver/Translation.h"
 #include "expr/functions/RandomGenerator.h"
