@@ -156,8 +156,8 @@ static_assert(sizeof kTokenNames / sizeof kTokenNames[0] == kTrueToken - kAndTok
 
 }  // namespace
 
-ExpressionLexer::ExpressionLexer(FieldExpression* expression, const char* text, int startToken)
-    : expression(expression), cursor(text), value(nullptr), startToken(startToken) {}
+ExpressionLexer::ExpressionLexer(FieldExpression* source, const char* text, int firstToken)
+    : expression(source), cursor(text), value(nullptr), startToken(firstToken) {}
 
 int ExpressionLexer::nextToken() {
   *value = TokenValue{nullptr, 0, nullptr};

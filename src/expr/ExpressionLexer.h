@@ -48,8 +48,9 @@ enum ExpressionToken : int {
 class ExpressionLexer {
  public:
   // Scans `text` (NUL-terminated, kept alive by the caller for the life of
-  // the lexer).  A non-zero `startToken` is delivered before anything else.
-  ExpressionLexer(FieldExpression* expression, const char* text, int startToken);
+  // the lexer) from `source`.  A non-zero `firstToken` is delivered before
+  // anything else.
+  ExpressionLexer(FieldExpression* source, const char* text, int firstToken);
   ExpressionLexer(const ExpressionLexer&) = delete;
   ExpressionLexer& operator=(const ExpressionLexer&) = delete;
 

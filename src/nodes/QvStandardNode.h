@@ -27,17 +27,17 @@ class QvStandardNode : public Base {
   QvFieldTable* getFieldTable() override { return nodeClass().table(); }
   const char* getClassName() const override { return Derived::kClassName; }
 
-  void evaluate(QvGroupNode* parent, bool copy) override {
+  void evaluate(QvGroupNode* parentGroup, bool copy) override {
     if constexpr (kIsGroup) {
-      QvGroupNode::evaluate(parent, copy);
+      QvGroupNode::evaluate(parentGroup, copy);
     } else if (copy) {
       // The copy keeps its values as texts, so the terms evaluated for it
       // can go at once: a LOOP of many leaves would otherwise hold every
       // repetition's terms until the end of the run.
       TermScope scope;
-      this->evaluateLeaf(parent, copy);
+      this->evaluateLeaf(parentGroup, copy);
     } else {
-      this->evaluateLeaf(parent, copy);
+      this->evaluateLeaf(parentGroup, copy);
     }
   }
 

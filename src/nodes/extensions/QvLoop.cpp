@@ -16,10 +16,10 @@ void QvLoop::evaluateBoundFields(NumberValue (&values)[3], QvField*& position) {
   static const char* const kNames[3] = {"start", "end", "step"};
   bool seen[3] = {false, false, false};
   for (int i = 0; i < declaredFields.getNumFields(); ++i) {
-    QvAtom name = declaredFields.getFieldName(i);
-    if (name.named("position") && position == nullptr) position = declaredFields.getField(this, i);
+    QvAtom fieldName = declaredFields.getFieldName(i);
+    if (fieldName.named("position") && position == nullptr) position = declaredFields.getField(this, i);
     for (int k = 0; k < 3; ++k) {
-      if (!name.named(kNames[k]) || seen[k]) continue;
+      if (!fieldName.named(kNames[k]) || seen[k]) continue;
       seen[k] = true;
       values[k] = declaredNumberOf(declaredFields.getField(this, i));
     }
