@@ -6,7 +6,7 @@
 // layers live beside their code and are emptied by the operations they add
 // with atEndOfRun (driver/LibrarySetUp.cpp installs them):
 //
-//   the class field tables   QvNodeClass::destroyAllTables (scene/)
+//   the class field tables   NodeClass::destroyAllTables (scene/)
 //   the visit stack          theNodeStack (scene/NodeVisit.h)
 //   the term arena           freeAllTerms (expr/)
 //   the parses in progress   NestedParse::endRun (expr/NestedParse.cpp)
@@ -31,7 +31,7 @@
 namespace lumeric {
 
 class FieldExpression;
-class QvDefTable;
+class DefTable;
 class QvNameTable;
 class QvNode;
 
@@ -91,7 +91,7 @@ class RunState {
   bool extensionsEnabled = true;
   // The DEF table of the input being read and evaluated; it serves name
   // look-ups and names the copies of named nodes.
-  QvDefTable* defNames = nullptr;
+  DefTable* defNames = nullptr;
   // Every named node, by name.
   QvNameTable* nameRegistry = nullptr;
   // When set, receives the name of every file INCLUDE reads, as opened.

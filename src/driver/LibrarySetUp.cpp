@@ -7,7 +7,7 @@
 #include "fields/FieldFactory.h"
 #include "nodes/NodeFactories.h"
 #include "scene/NodeVisit.h"
-#include "scene/QvNodeClass.h"
+#include "scene/NodeClass.h"
 #include "scene/SceneOperations.h"
 
 namespace lumeric {
@@ -31,7 +31,7 @@ void installLibraryOperations() {
   operations.createField = createField;
   operations.evaluateNameText = nameTextOf;
   installSceneOperations(operations);
-  theRun.atEndOfRun(QvNodeClass::destroyAllTables);
+  theRun.atEndOfRun(NodeClass::destroyAllTables);
   theRun.atEndOfRun(freeAllTerms);
   theRun.atEndOfRun(clearNodeStack);
   theRun.atEndOfRun(NestedParse::endRun);

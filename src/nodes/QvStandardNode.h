@@ -11,7 +11,7 @@
 #include "reader/NodeReader.h"
 #include "scene/NodeVisit.h"
 #include "scene/QvGroupNode.h"
-#include "scene/QvNodeClass.h"
+#include "scene/NodeClass.h"
 #include "writer/SceneWriter.h"
 
 namespace lumeric {
@@ -76,8 +76,8 @@ class QvStandardNode : public Base {
   }
 
   // The class's shared information, its field table included.
-  static QvNodeClass& nodeClass() {
-    static QvNodeClass info(Derived::kClassName);
+  static NodeClass& nodeClass() {
+    static NodeClass info(Derived::kClassName);
     return info;
   }
 

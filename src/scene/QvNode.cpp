@@ -8,7 +8,7 @@
 #include "scene/FieldExpression.h"
 #include "scene/NodeVisit.h"
 #include "scene/CopyBudget.h"
-#include "scene/QvDefTable.h"
+#include "scene/DefTable.h"
 #include "scene/QvField.h"
 #include "scene/QvFieldTable.h"
 #include "scene/QvGroupNode.h"

@@ -105,16 +105,16 @@ class QvNode {
 };
 
 // Keeps a reference on a node for the lifetime of the holder.
-class QvNodeRef {
+class NodeRef {
  public:
-  explicit QvNodeRef(QvNode* node) : node_(node) {
+  explicit NodeRef(QvNode* node) : node_(node) {
     if (node_ != nullptr) node_->ref();
   }
-  ~QvNodeRef() {
+  ~NodeRef() {
     if (node_ != nullptr) node_->unref();
   }
-  QvNodeRef(const QvNodeRef&) = delete;
-  QvNodeRef& operator=(const QvNodeRef&) = delete;
+  NodeRef(const NodeRef&) = delete;
+  NodeRef& operator=(const NodeRef&) = delete;
   QvNode* get() const { return node_; }
 
  private:
