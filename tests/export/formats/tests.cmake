@@ -18,7 +18,7 @@ add_executable(lumeric_export_format_tests
 target_include_directories(lumeric_export_format_tests PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 target_include_directories(lumeric_export_format_tests SYSTEM PRIVATE ${LUMERIC_TINYGLTF_INCLUDE_DIR})
 target_link_libraries(lumeric_export_format_tests PRIVATE lumeric_warnings
-  lumeric_export_static lumeric_core nlohmann_json::nlohmann_json GTest::gtest GTest::gtest_main)
+  lumeric_export_static lumeric_static nlohmann_json::nlohmann_json GTest::gtest GTest::gtest_main)
 add_dependencies(lumeric_export_format_tests lumeric_cli)
 target_compile_definitions(lumeric_export_format_tests PRIVATE
   LUMERIC_CLI_PATH="$<TARGET_FILE:lumeric_cli>"
