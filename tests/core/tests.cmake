@@ -1,5 +1,7 @@
 set(LUMERIC_CORE_TESTS
+  core/AtomsAndTablesTest.cpp
   core/FloatTextTest.cpp
+  core/GrowingListsTest.cpp
   core/NumberTextTest.cpp
   core/QvContextTest.cpp
 )
