@@ -3,6 +3,7 @@
 #include <cctype>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <regex>
 #include <sstream>
 
@@ -308,6 +309,62 @@ CodeIndex indexCode(const std::string& root, const std::vector<std::string>& fol
     }
   }
   return index;
+}
+
+namespace {
+
+// Whether `name` reaches QvNode or QvField through the bases in `bases`.
+bool isModelClass(const std::map<std::string, std::string>& bases, const std::string& name,
+                  std::set<std::string>& seen) {
+  if (name == "QvNode" || name == "QvField") return true;
+  auto found = bases.find(name);
+  if (found == bases.end() || !seen.insert(name).second) return false;
+  std::string words = found->second;
+  for (char& c : words) c = isIdentifierChar(c) ? c : ' ';
+  std::istringstream in(words);
+  for (std::string base; in >> base;) {
+    if (base != name && isModelClass(bases, base, seen)) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+std::vector<std::string> misnamedClasses(const std::string& markdown, const std::vector<std::string>& sources) {
+  std::set<std::string> listed;
+  bool inSection = false;
+  for (const std::string& line : linesOf(markdown)) {
+    if (line.compare(0, 3, "## ") == 0) inSection = line == "## Names";
+    if (!inSection) continue;
+    for (const std::string& name : backticked(line)) listed.insert(name);
+  }
+  // A template's parameters count among its bases: a default names one
+  // ("class Base = QvNode").
+  static const std::regex kDeclaration(
+      "(?:template\\s*<([^<>]*(?:<[^<>]*>[^<>]*)*)>\\s*)?\\b(?:class|struct)\\s+(\\w+)\\s*(?:final\\s*)?(:[^{;]*)?[{;]");
+  std::map<std::string, std::string> bases;
+  std::set<std::string> declared;
+  for (const std::string& text : sources) {
+    for (std::sregex_iterator it(text.begin(), text.end(), kDeclaration), end; it != end; ++it) {
+      const std::string name = (*it)[2];
+      bases[name] += " " + std::string((*it)[1]) + " " + std::string((*it)[3]);
+      if (name.compare(0, 2, "Qv") == 0) declared.insert(name);
+    }
+  }
+  std::vector<std::string> misnamed;
+  for (const std::string& name : declared) {
+    const std::string traitsOf = name.size() > 6 && name.compare(name.size() - 6, 6, "Traits") == 0
+                                     ? name.substr(0, name.size() - 6)
+                                     : "";
+    std::set<std::string> seen;
+    std::set<std::string> seenForTraits;
+    if (listed.count(name) != 0 || isModelClass(bases, name, seen) ||
+        (!traitsOf.empty() && isModelClass(bases, traitsOf, seenForTraits))) {
+      continue;
+    }
+    misnamed.push_back(name);
+  }
+  return misnamed;
 }
 
 bool namesSomething(const CodeIndex& index, const std::string& text) {

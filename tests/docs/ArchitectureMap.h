@@ -61,6 +61,13 @@ void addToIndex(CodeIndex& index, const std::string& text);
 // prose and always pass.
 bool namesSomething(const CodeIndex& index, const std::string& text);
 
+// The classes and structs declared in `sources` whose names take the Qv
+// prefix against the rule of the "## Names" section of `markdown`: a Qv
+// name belongs to a node or field class (one whose bases reach QvNode or
+// QvField), to the traits of one (QvSFFloatTraits), or is named in the
+// section.
+std::vector<std::string> misnamedClasses(const std::string& markdown, const std::vector<std::string>& sources);
+
 }  // namespace lumeric
 
 #endif  // LUMERIC_TESTS_DOCS_ARCHITECTUREMAP_H

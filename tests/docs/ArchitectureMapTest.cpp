@@ -123,6 +123,31 @@ TEST(ArchitectureMap, LooksNamesUp) {
   for (const Case& c : cases) EXPECT_EQ(namesSomething(index, c.text), c.exists) << c.text;
 }
 
+TEST(ArchitectureMap, FindsQvNamesAgainstTheRule) {
+  const char markdown[] = "## Names\n- fixed: `QvContext`\n## Later\n`QvLater`\n";
+  const std::vector<std::string> sources = {
+      "class QvNode { };\nclass QvField;\nclass QvContext {};\nclass QvLater {};\nclass QvHelper : public Other {};",
+      "template <class D, class B = QvNode>\nclass QvStandardNode : public B {};\n"
+      "class QvCube : public QvStandardNode<QvCube> {};\nstruct QvSFFloatTraits {};\n"
+      "class Base : public QvField {};\nclass QvSFFloat final : public Copyable<QvSFFloat, Base> {};\n"
+      "struct QvGadgetTraits {};\nclass QvLoopy : public QvLoopy2 {};\nclass QvLoopy2 : public QvLoopy {};\n"};
+  EXPECT_EQ(misnamedClasses(markdown, sources),
+            (std::vector<std::string>{"QvGadgetTraits", "QvHelper", "QvLater", "QvLoopy", "QvLoopy2"}));
+}
+
+TEST(ArchitectureMap, EveryQvNameFollowsTheRule) {
+  std::vector<std::string> sources;
+  for (const auto& entry : fs::recursive_directory_iterator(kRoot + "/src")) {
+    const std::string extension = entry.path().extension().string();
+    if (entry.is_regular_file() && (extension == ".h" || extension == ".cpp")) {
+      sources.push_back(readFile(entry.path().string()));
+    }
+  }
+  for (const std::string& name : misnamedClasses(readFile(kMapPath), sources)) {
+    ADD_FAILURE() << name << " takes the Qv prefix against the rule of docs/architecture.md (## Names)";
+  }
+}
+
 TEST(ArchitectureMap, NoIncludeRunsAgainstTheLayers) {
   const LayerMap map = theMap();
   EXPECT_GE(map.layers.size(), 10u);
