@@ -18,4 +18,5 @@ add_library(lumeric_export_static STATIC ${LUMERIC_EXPORT_SOURCES} ${LUMERIC_EXP
 target_include_directories(lumeric_export_static PUBLIC include src ${LUMERIC_GENERATED_DIR})
 target_include_directories(lumeric_export_static PRIVATE ${LUMERIC_STB_INCLUDE})
 set_target_properties(lumeric_export_static PROPERTIES POSITION_INDEPENDENT_CODE ON)
-target_link_libraries(lumeric_export_static PUBLIC lumeric_core PRIVATE PkgConfig::LUMERIC_GLU ${LUMERIC_STB_LIBRARY})
+target_link_libraries(lumeric_export_static PUBLIC lumeric_static PRIVATE PkgConfig::LUMERIC_GLU ${LUMERIC_STB_LIBRARY}
+  lumeric_warnings)

@@ -15,7 +15,7 @@ set_target_properties(lumeric_export_static PROPERTIES POSITION_INDEPENDENT_CODE
 
 add_library(lumeric_export SHARED src/driver/ExportLibrary.cpp)
 target_compile_definitions(lumeric_export PRIVATE LUMERIC_BUILDING_LIBRARY)
-target_link_libraries(lumeric_export PRIVATE lumeric_export_static lumeric_core m)
+target_link_libraries(lumeric_export PRIVATE lumeric_export_static lumeric_static m lumeric_warnings)
 set_target_properties(lumeric_export PROPERTIES
   CXX_VISIBILITY_PRESET hidden
   VISIBILITY_INLINES_HIDDEN ON

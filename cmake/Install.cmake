@@ -8,6 +8,8 @@ include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 # liblumeric.so.MAJOR is the name hosts load; .so.MAJOR.MINOR.PATCH the file.
+# Minor versions keep the binary interface, 0.x included (see the package
+# version file below).
 # The same for liblumeric_export.so, which holds a copy of the translator
 # and needs no other lumeric library.
 foreach(library lumeric lumeric_export)
@@ -31,10 +33,10 @@ install(FILES ${PROJECT_SOURCE_DIR}/docs/lumeric.1
   DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/docs/language.md
   DESTINATION ${LUMERIC_DOC_DIR})
-install(FILES
-  ${PROJECT_SOURCE_DIR}/examples/expressions.vlm
-  ${PROJECT_SOURCE_DIR}/examples/first.wrl
-  DESTINATION ${LUMERIC_DOC_DIR}/examples)
+# Every example, as the README and --help point to them.
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples/
+  DESTINATION ${LUMERIC_DOC_DIR}/examples
+  FILES_MATCHING PATTERN "*.vlm" PATTERN "*.wrl")
 
 # The CMake package.  Every path in it is relative to the installed file, so
 # an installed tree can be moved.
@@ -44,9 +46,14 @@ install(EXPORT lumericTargets
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/lumericConfig.cmake.in
   ${CMAKE_CURRENT_BINARY_DIR}/lumericConfig.cmake
   INSTALL_DESTINATION ${LUMERIC_CMAKE_DIR})
-# Before 1.0 a minor version may change the interface.
+# The package promises what the SONAME promises: every 0.x keeps the binary
+# interface of 0.1 (the C functions and the view structure of the public
+# headers, which the host's design fixes), so find_package(lumeric 0.1)
+# accepts any 0.x from 0.1 on, as liblumeric.so.0 loads any of them.  A
+# release that breaks the interface raises the major version, and with it
+# the SONAME.
 write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/lumericConfigVersion.cmake
-  COMPATIBILITY SameMinorVersion)
+  COMPATIBILITY SameMajorVersion)
 install(FILES
   ${CMAKE_CURRENT_BINARY_DIR}/lumericConfig.cmake
   ${CMAKE_CURRENT_BINARY_DIR}/lumericConfigVersion.cmake

@@ -17,6 +17,8 @@ class QvAtom {
 
   const char* text() const { return text_; }
   bool isEmpty() const { return text_[0] == '\0'; }
+  // Whether the atom's text is `text`, without interning `text`.
+  bool named(const char* text) const;
   // The handle, usable as a table key.
   const void* key() const { return text_; }
 

@@ -10,6 +10,7 @@
 #include <cstdio>
 
 #include "core/Failure.h"
+#include "core/LastingState.h"
 #include "lumeric/lumeric.h"
 
 namespace lumeric {
@@ -61,9 +62,9 @@ class QvContext {
       __attribute__((format(printf, 2, 3)));
 
   // Starts an evaluation: a new serial, which becomes the current one.
-  int startEvaluation() { currentSerial = ++serialCounter; return currentSerial; }
+  int startEvaluation() { currentSerial = ++expressionSerials; return currentSerial; }
   // Draws a serial without making it current.
-  int drawSerial() { return ++serialCounter; }
+  int drawSerial() { return ++expressionSerials; }
 
   int fileDepth = -1;
   // A file on the stack: its name for messages and, when there is one, its
@@ -74,10 +75,9 @@ class QvContext {
   };
   OpenFile files[kMaxFiles] = {};
   int parseStatus = 0;
-  // Serials outlive runs: a serial is never reused, so an expression's mark
-  // from an earlier run never matches the evaluation of a later one.
+  // The serial of the evaluation in progress; the serials themselves
+  // (expressionSerials) outlive runs.
   int currentSerial = 0;
-  int serialCounter = 0;
   CReportErrorView* view = nullptr;
 
  private:

@@ -1,19 +1,13 @@
 #include "core/RunState.h"
 
-#include <cmath>
-
 #include "core/QvAtom.h"
 #include "core/QvAtomPool.h"
 #include "core/QvContext.h"
 #include "core/QvNameTable.h"
-#include "lumeric/lumeric.h"
-
-unsigned long gWarn = 0;
 
 namespace lumeric {
 
 RunState theRun;
-double precisionQuantum = 0.0001;
 
 void RunState::atEndOfRun(void (*release)()) {
   for (int k = 0; k < releaseCount_; ++k) {
@@ -49,7 +43,6 @@ void RunState::reset() {
   inputLocation.clear();
   includeDirectories = nullptr;
   readingDepth = 0;
-  parseDepth = 0;
   theContext.fileDepth = -1;
 }
 
@@ -63,18 +56,5 @@ void removeName(QvNode* node, QvAtom name, int32_t* slot) {
   QvContext::programError("QvNode::removeName", "Program Error: Name \"%s\" (node %p) is not in dictionary", name.text(),
                           static_cast<void*>(node));
 }
-
-double roundToPrecision(double v) {
-  double q = precisionQuantum;
-  if (!(q > 0)) return v;
-  // Values too large for the step keep their own digits rather than
-  // overflow to infinity.
-  const double steps = v / q;
-  if (!std::isfinite(steps)) return v;
-  const double r = std::round(steps) * q;
-  return std::isfinite(r) ? r : v;
-}
-
-bool warningsEnabled(unsigned long bit) { return (gWarn & bit) != 0; }
 
 }  // namespace lumeric

@@ -1,9 +1,18 @@
-// The state of the translator.  One translation runs at a time, on the host's
+// The state of one run.  One translation runs at a time, on the host's
 // thread; nothing here is locked.
 //
 // What belongs to one run lives in theRun and is returned to its start by
-// theRun.reset() at the end of every run.  What outlives runs is kept apart
-// below it.
+// theRun.reset() at the end of every run.  The per-run objects of higher
+// layers live beside their code and are emptied by the operations they add
+// with atEndOfRun (driver/LibrarySetUp.cpp installs them):
+//
+//   the class field tables   NodeClass::destroyAllTables (scene/)
+//   the visit stack          theNodeStack (scene/NodeVisit.h)
+//   the term arena           freeAllTerms (expr/)
+//   the parses in progress   NestedParse::endRun (expr/NestedParse.cpp)
+//
+// The atom pool (core/QvAtomPool.h) is freed by reset() itself.  What
+// outlives runs is declared in core/LastingState.h.
 #ifndef LUMERIC_CORE_RUNSTATE_H
 #define LUMERIC_CORE_RUNSTATE_H
 
@@ -13,13 +22,16 @@
 #include <vector>
 
 #include "core/FileAccess.h"
+// The command line takes the warning bits from here (until it includes
+// core/LastingState.h itself).
+#include "core/LastingState.h"
 #include "core/OutputFile.h"
 #include "core/QvAtom.h"
 
 namespace lumeric {
 
 class FieldExpression;
-class QvDefTable;
+class DefTable;
 class QvNameTable;
 class QvNode;
 
@@ -28,8 +40,6 @@ constexpr int kOutputNameSize = 256;
 // stack keeps: every pass over the tree then finds each node's enclosing
 // nodes.  Included files count their INCLUDE statement as a level.
 constexpr int kMaxNodeDepth = 63;
-// How deep field references may nest parses of other fields' expressions.
-constexpr int kMaxNestedParses = 200;
 
 // What one run may do.  The defaults are far beyond any real scene; they
 // stop scenes that would run for hours or exhaust memory.  A caller (the
@@ -81,7 +91,7 @@ class RunState {
   bool extensionsEnabled = true;
   // The DEF table of the input being read and evaluated; it serves name
   // look-ups and names the copies of named nodes.
-  QvDefTable* defNames = nullptr;
+  DefTable* defNames = nullptr;
   // Every named node, by name.
   QvNameTable* nameRegistry = nullptr;
   // When set, receives the name of every file INCLUDE reads, as opened.
@@ -118,9 +128,6 @@ class RunState {
   bool nodeBudgetSpent = false;
   // How deep the node reader is nested now.
   int readingDepth = 0;
-  // The parses of field expressions in progress, innermost last.
-  FieldExpression* parsesInProgress[kMaxNestedParses] = {};
-  int parseDepth = 0;
 
  private:
   static constexpr int kMaxReleases = 8;
@@ -136,23 +143,6 @@ void addName(QvNode* node, QvAtom name, int32_t* slot);
 // Removes `node` from the list of `name`; a program error when it is not
 // there.
 void removeName(QvNode* node, QvAtom name, int32_t* slot);
-
-// --- What outlives runs ---------------------------------------------------
-
-// The step every written number is rounded to; 0 or less turns rounding
-// off.  Set by PRECISION and never reset between runs.
-extern double precisionQuantum;
-
-// `v` rounded to the nearest multiple of precisionQuantum (halves away from
-// zero); unchanged when the quantum is 0 or less, and when the value is
-// too large for the step (rounding never makes a finite value infinite).
-double roundToPrecision(double v);
-
-// The bits of gWarn (the host's warning switch, lumeric.h).
-constexpr unsigned long kWarnUnknownNodes = 2;
-constexpr unsigned long kWarnDuplicateNames = 4;
-// Whether the host asked for the warnings of `bit`.
-bool warningsEnabled(unsigned long bit);
 
 }  // namespace lumeric
 

@@ -3,6 +3,7 @@ set(LUMERIC_CORE_SOURCES
   src/core/FileAccess.cpp
   src/core/FloatText.cpp
   src/core/MessageDetails.cpp
+  src/core/LastingState.cpp
   src/core/NumberText.cpp
   src/core/OutputFile.cpp
   src/core/QvAtom.cpp

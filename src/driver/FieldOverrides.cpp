@@ -7,7 +7,7 @@
 #include "core/QvContext.h"
 #include "core/RunState.h"
 #include "reader/QvSceneInput.h"
-#include "scene/QvDefTable.h"
+#include "scene/DefTable.h"
 #include "scene/QvField.h"
 #include "scene/QvFieldTable.h"
 #include "scene/QvNode.h"

@@ -2,11 +2,12 @@
 
 #include "core/RunState.h"
 #include "expr/Evaluation.h"
+#include "expr/NestedParse.h"
 #include "expr/Term.h"
 #include "fields/FieldFactory.h"
 #include "nodes/NodeFactories.h"
 #include "scene/NodeVisit.h"
-#include "scene/QvNodeClass.h"
+#include "scene/NodeClass.h"
 #include "scene/SceneOperations.h"
 
 namespace lumeric {
@@ -31,9 +32,10 @@ void installLibraryOperations() {
   operations.evaluateNameText = nameTextOf;
   operations.collectNodeClassNames = collectNodeClassNames;
   installSceneOperations(operations);
-  theRun.atEndOfRun(QvNodeClass::destroyAllTables);
+  theRun.atEndOfRun(NodeClass::destroyAllTables);
   theRun.atEndOfRun(freeAllTerms);
   theRun.atEndOfRun(clearNodeStack);
+  theRun.atEndOfRun(NestedParse::endRun);
 }
 
 }  // namespace lumeric

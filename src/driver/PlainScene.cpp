@@ -34,7 +34,7 @@ QvNode* readRootOf(PlainReading& reading, FILE* file, const char* name, bool& co
   reading.inputs.push_back(std::make_unique<QvSceneInput>());
   QvSceneInput& input = *reading.inputs.back();
   input.setFile(file);
-  QvDefTable* outer = theRun.defNames;
+  DefTable* outer = theRun.defNames;
   theRun.defNames = &input.defNames();
   QvNode* root = nullptr;
   complete = false;
@@ -85,7 +85,7 @@ bool readPlainScene(FILE* file, const char* name, const RunLimits& limits, const
   while (complete && !input.eof()) {
     QvNode* next = nullptr;
     if (theContext.pushFile(name, file)) {
-      QvDefTable* outer = theRun.defNames;
+      DefTable* outer = theRun.defNames;
       theRun.defNames = &input.defNames();
       complete = readScene(&input, next);
       theRun.defNames = outer;

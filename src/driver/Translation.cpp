@@ -178,7 +178,7 @@ int runTranslation(const char* inputPath, CReportErrorView* view, const char* di
     if (root == nullptr) {
       result = 1;
     } else {
-      QvNodeRef hold(root);
+      NodeRef hold(root);
       if (applyAdditions(additions)) useRoot(root);
     }
     theRun.defNames = nullptr;

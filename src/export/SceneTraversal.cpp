@@ -292,8 +292,8 @@ bool SceneTraversal::visitTransformation(QvNode* node, NodeKind kind, TraversalS
   Matrix4 m;
   if (auto* t = nodeAs<QvTransform>(node, kind)) {
     m = transformMatrix(*t);
-  } else if (auto* t = nodeAs<QvTranslation>(node, kind)) {
-    m = translationMatrix(vec3(componentsIn<3>(t->translation)));
+  } else if (auto* translation = nodeAs<QvTranslation>(node, kind)) {
+    m = translationMatrix(vec3(componentsIn<3>(translation->translation)));
   } else if (auto* r = nodeAs<QvRotation>(node, kind)) {
     const auto v = componentsIn<4>(r->rotation);
     m = rotationMatrix(Vec3{{v[0], v[1], v[2]}}, v[3]);
@@ -484,15 +484,15 @@ bool SceneTraversal::visitCameraOrLight(QvNode* node, NodeKind kind, TraversalSt
     scene_.lights.push_back(light);
     addNode(node, state, multiply(state.matrix, rotationFromMinusZ(componentsIn<3>(d->direction))), -1,
             static_cast<int>(scene_.lights.size()) - 1);
-  } else if (auto* p = nodeAs<QvPointLight>(node, kind)) {
+  } else if (auto* point = nodeAs<QvPointLight>(node, kind)) {
     ExportLight light;
     light.name = nameFor(node, state);
     light.type = LightType::kPoint;
-    light.on = numberIn(p->on) != 0;
-    light.intensity = static_cast<float>(numberIn(p->intensity));
-    light.color = color(componentsIn<3>(p->color));
+    light.on = numberIn(point->on) != 0;
+    light.intensity = static_cast<float>(numberIn(point->intensity));
+    light.color = color(componentsIn<3>(point->color));
     scene_.lights.push_back(light);
-    addNode(node, state, multiply(state.matrix, translationMatrix(componentsIn<3>(p->location))), -1,
+    addNode(node, state, multiply(state.matrix, translationMatrix(componentsIn<3>(point->location))), -1,
             static_cast<int>(scene_.lights.size()) - 1);
   } else if (auto* s = nodeAs<QvSpotLight>(node, kind)) {
     ExportLight light;

@@ -18,7 +18,7 @@ namespace lumeric { struct ParseContext; }
 
 %code {
 #include "core/QvContext.h"
-#include "expr/AssignmentStatements.h"
+#include "expr/FieldAssignments.h"
 #include "expr/FieldReferences.h"
 #include "expr/FunctionCalls.h"
 #include "expr/LiteralBuilding.h"

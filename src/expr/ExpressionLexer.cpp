@@ -156,8 +156,8 @@ static_assert(sizeof kTokenNames / sizeof kTokenNames[0] == kTrueToken - kAndTok
 
 }  // namespace
 
-ExpressionLexer::ExpressionLexer(FieldExpression* expression, const char* text, int startToken)
-    : expression(expression), cursor(text), value(nullptr), startToken(startToken) {}
+ExpressionLexer::ExpressionLexer(FieldExpression* source, const char* text, int firstToken)
+    : expression(source), cursor(text), value(nullptr), startToken(firstToken) {}
 
 int ExpressionLexer::nextToken() {
   *value = TokenValue{nullptr, 0, nullptr};
@@ -355,8 +355,8 @@ int ExpressionLexer::scanName(const char* start) {
   return keywordOrName(start, length);
 }
 
-const char* ExpressionLexer::describeToken(int code) {
-  static char text[32];
+std::string ExpressionLexer::describeToken(int code) {
+  char text[32];
   switch (code) {
     case kEndToken:
       return "[end of file]";

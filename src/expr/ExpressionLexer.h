@@ -3,7 +3,9 @@
 #ifndef LUMERIC_EXPR_EXPRESSIONLEXER_H
 #define LUMERIC_EXPR_EXPRESSIONLEXER_H
 
-#include "ExpressionGrammar.h"  // generated from expr/ExpressionGrammar.y
+#include <string>
+
+#include "expr/ExpressionGrammar.h"  // generated from ExpressionGrammar.y
 #include "expr/TokenValue.h"
 
 namespace lumeric {
@@ -46,8 +48,9 @@ enum ExpressionToken : int {
 class ExpressionLexer {
  public:
   // Scans `text` (NUL-terminated, kept alive by the caller for the life of
-  // the lexer).  A non-zero `startToken` is delivered before anything else.
-  ExpressionLexer(FieldExpression* expression, const char* text, int startToken);
+  // the lexer) from `source`.  A non-zero `firstToken` is delivered before
+  // anything else.
+  ExpressionLexer(FieldExpression* source, const char* text, int firstToken);
   ExpressionLexer(const ExpressionLexer&) = delete;
   ExpressionLexer& operator=(const ExpressionLexer&) = delete;
 
@@ -55,9 +58,8 @@ class ExpressionLexer {
   // At the end of the text, or at a control character, every call gives 0.
   int nextToken();
 
-  // The text naming a token in messages.  It lives in a static buffer that
-  // the next call overwrites.
-  static const char* describeToken(int code);
+  // The text naming a token in messages.
+  static std::string describeToken(int code);
 
   // True when the whole text is one decimal NUMBER, with at most one sign in
   // front: the value is then that of the text's parse, computed without

@@ -16,7 +16,7 @@
 #include "scene/QvFieldTable.h"
 #include "scene/NodeVisit.h"
 #include "scene/QvNode.h"
-#include "scene/QvDefTable.h"
+#include "scene/DefTable.h"
 #include "scene/SceneMessages.h"
 
 namespace lumeric {

@@ -14,15 +14,14 @@
 #ifndef LUMERIC_EXPR_NESTEDPARSE_H
 #define LUMERIC_EXPR_NESTEDPARSE_H
 
-#include "core/RunState.h"
-
 namespace lumeric {
 
 class FieldExpression;
 
 class NestedParse {
  public:
-  static constexpr int kMaxNestedParses = lumeric::kMaxNestedParses;
+  // How deep field references may nest parses of other fields' expressions.
+  static constexpr int kMaxNestedParses = 200;
 
   // Enters `expression` for the lifetime of this object, unless it is
   // already being parsed ("Error: Circular reference") or the nesting is
@@ -36,6 +35,9 @@ class NestedParse {
   bool admitted() const { return admitted_; }
   // Whether any parse is in progress at all.
   static bool anyInProgress();
+  // Forgets the parses in progress, at the end of a run (installed with
+  // RunState::atEndOfRun); a run that stopped inside a parse leaves none.
+  static void endRun();
 
  private:
   static bool admit(FieldExpression* expression);

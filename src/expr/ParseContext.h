@@ -12,8 +12,8 @@ class FieldExpression;
 struct Term;
 
 struct ParseContext {
-  ParseContext(FieldExpression* expression, const char* text, int startToken, Term** result, int serial)
-      : lexer(expression, text, startToken), expression(expression), result(result), serial(serial) {}
+  ParseContext(FieldExpression* at, const char* text, int firstToken, Term** resultSlot, int parserSerial)
+      : lexer(at, text, firstToken), expression(at), result(resultSlot), serial(parserSerial) {}
   ParseContext(const ParseContext&) = delete;
   ParseContext& operator=(const ParseContext&) = delete;
 

@@ -34,10 +34,10 @@ class ReportText {
 
 void postReport(FieldExpression* at, const char* head, int found, const int* expected, int count) {
   ReportText report;
-  report.append("%s: found %s", head, ExpressionLexer::describeToken(found));
+  report.append("%s: found %s", head, ExpressionLexer::describeToken(found).c_str());
   if (count > 0) report.append("%s", " - expecting: ");
   for (int k = 0; k < count && report.length() <= kLastAppendAt; ++k) {
-    report.append("%s%s", k == 0 ? "" : " or ", ExpressionLexer::describeToken(expected[k]));
+    report.append("%s%s", k == 0 ? "" : " or ", ExpressionLexer::describeToken(expected[k]).c_str());
   }
   reportAtExpression(at, "%s", report.text());
 }

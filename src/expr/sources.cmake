@@ -9,7 +9,7 @@ set(LUMERIC_EXPR_SOURCES
   src/expr/ParseErrors.cpp
   src/expr/LiteralBuilding.cpp
   src/expr/FieldReferences.cpp
-  src/expr/AssignmentStatements.cpp
+  src/expr/FieldAssignments.cpp
   src/expr/FunctionCalls.cpp
   src/expr/functions/FunctionMessages.cpp
   src/expr/functions/FunctionLookup.cpp

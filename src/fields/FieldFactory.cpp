@@ -29,24 +29,39 @@ namespace lumeric {
 
 namespace {
 
-template <class Field>
-QvField* make() {
-  return new Field;
-}
-
 struct FieldType {
   const char* name;
   QvField* (*create)();
 };
 
+// The row of `Field`, under the name the type states (kTypeName).
+template <class Field>
+constexpr FieldType fieldType() {
+  return FieldType{Field::kTypeName, [] { return static_cast<QvField*>(new Field); }};
+}
+
 const FieldType kFieldTypes[] = {
-    {"MFColor", make<QvMFColor>},     {"MFFloat", make<QvMFFloat>},       {"MFLong", make<QvMFLong>},
-    {"MFString", make<QvMFString>},   {"MFVec2f", make<QvMFVec2f>},       {"MFVec3f", make<QvMFVec3f>},
-    {"MFVec4f", make<QvMFVec4f>},     {"SFBitMask", make<QvSFBitMask>},   {"SFBool", make<QvSFBool>},
-    {"SFColor", make<QvSFColor>},     {"SFEnum", make<QvSFEnum>},         {"SFFloat", make<QvSFFloat>},
-    {"SFImage", make<QvSFImage>},     {"SFLong", make<QvSFLong>},         {"SFMatrix", make<QvSFMatrix>},
-    {"SFNode", make<QvSFNode>},       {"SFRotation", make<QvSFRotation>}, {"SFString", make<QvSFString>},
-    {"SFVec2f", make<QvSFVec2f>},     {"SFVec3f", make<QvSFVec3f>},       {"SFVec4f", make<QvSFVec4f>},
+    fieldType<QvMFColor>(),
+    fieldType<QvMFFloat>(),
+    fieldType<QvMFLong>(),
+    fieldType<QvMFString>(),
+    fieldType<QvMFVec2f>(),
+    fieldType<QvMFVec3f>(),
+    fieldType<QvMFVec4f>(),
+    fieldType<QvSFBitMask>(),
+    fieldType<QvSFBool>(),
+    fieldType<QvSFColor>(),
+    fieldType<QvSFEnum>(),
+    fieldType<QvSFFloat>(),
+    fieldType<QvSFImage>(),
+    fieldType<QvSFLong>(),
+    fieldType<QvSFMatrix>(),
+    fieldType<QvSFNode>(),
+    fieldType<QvSFRotation>(),
+    fieldType<QvSFString>(),
+    fieldType<QvSFVec2f>(),
+    fieldType<QvSFVec3f>(),
+    fieldType<QvSFVec4f>(),
 };
 
 }  // namespace

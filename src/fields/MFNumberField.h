@@ -30,6 +30,7 @@ class MFNumberField : public ExpressionListField {
 
   MFNumberField() : ExpressionListField(1) {}
 
+  static constexpr const char* kTypeName = Traits::kTypeName;
   const char* getTypeName() const override { return Traits::kTypeName; }
   void appendValue(Term* value, FieldExpression* at) override;
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;

@@ -36,6 +36,7 @@ class MFVectorField : public ExpressionListField {
 
   MFVectorField() : ExpressionListField(kWidth) {}
 
+  static constexpr const char* kTypeName = Traits::kTypeName;
   const char* getTypeName() const override { return Traits::kTypeName; }
   void appendValue(Term* value, FieldExpression* at) override;
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;

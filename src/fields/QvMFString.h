@@ -12,7 +12,8 @@ class QvMFString : public CopyableField<QvMFString, ExpressionListField> {
  public:
   QvMFString() : CopyableField(1) {}
 
-  const char* getTypeName() const override { return "MFString"; }
+  static constexpr const char* kTypeName = "MFString";
+  const char* getTypeName() const override { return kTypeName; }
   // Adds one element holding a string term's characters in quotation marks.
   void appendValue(Term* value, FieldExpression* at) override;
   // Only one element at a time (i given) takes a string.

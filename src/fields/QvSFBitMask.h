@@ -10,7 +10,8 @@ namespace lumeric {
 
 class QvSFBitMask : public CopyableField<QvSFBitMask, QvSFEnum> {
  public:
-  const char* getTypeName() const override { return "SFBitMask"; }
+  static constexpr const char* kTypeName = "SFBitMask";
+  const char* getTypeName() const override { return kTypeName; }
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   // One name when an entry holds exactly `value`; otherwise " ( ", the

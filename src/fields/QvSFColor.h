@@ -12,7 +12,8 @@ extern template class WholeExpressionField<3>;
 
 class QvSFColor : public CopyableField<QvSFColor, WholeExpressionField<3>> {
  public:
-  const char* getTypeName() const override { return "SFColor"; }
+  static constexpr const char* kTypeName = "SFColor";
+  const char* getTypeName() const override { return kTypeName; }
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   void write(SceneWriter& out) override;

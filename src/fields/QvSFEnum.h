@@ -13,7 +13,8 @@ namespace lumeric {
 
 class QvSFEnum : public CopyableField<QvSFEnum, QvSingleField> {
  public:
-  const char* getTypeName() const override { return "SFEnum"; }
+  static constexpr const char* kTypeName = "SFEnum";
+  const char* getTypeName() const override { return kTypeName; }
   // Not available for enumerations: report at `at`; the get gives null.
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;

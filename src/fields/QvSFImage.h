@@ -19,7 +19,8 @@ class QvSFImage : public CopyableField<QvSFImage, QvSingleField> {
   // number).
   static constexpr int kMaxComponents = 4;
 
-  const char* getTypeName() const override { return "SFImage"; }
+  static constexpr const char* kTypeName = "SFImage";
+  const char* getTypeName() const override { return kTypeName; }
   // Not available for images: report in the file; the get gives null.
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;

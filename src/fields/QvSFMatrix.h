@@ -13,7 +13,8 @@ extern template class WholeExpressionField<16>;
 
 class QvSFMatrix : public CopyableField<QvSFMatrix, WholeExpressionField<16>> {
  public:
-  const char* getTypeName() const override { return "SFMatrix"; }
+  static constexpr const char* kTypeName = "SFMatrix";
+  const char* getTypeName() const override { return kTypeName; }
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   void write(SceneWriter& out) override;

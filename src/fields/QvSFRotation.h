@@ -13,7 +13,8 @@ extern template class WholeExpressionField<4>;
 
 class QvSFRotation : public CopyableField<QvSFRotation, WholeExpressionField<4>> {
  public:
-  const char* getTypeName() const override { return "SFRotation"; }
+  static constexpr const char* kTypeName = "SFRotation";
+  const char* getTypeName() const override { return kTypeName; }
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;
   void write(SceneWriter& out) override;

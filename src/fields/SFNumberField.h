@@ -19,6 +19,7 @@ namespace lumeric {
 template <class Derived, class Traits>
 class SFNumberField : public SingleExpressionField {
  public:
+  static constexpr const char* kTypeName = Traits::kTypeName;
   const char* getTypeName() const override { return Traits::kTypeName; }
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;

@@ -26,6 +26,7 @@ class SFVectorField : public QvSingleField {
  public:
   static constexpr int kSize = Traits::kSize;
 
+  static constexpr const char* kTypeName = Traits::kTypeName;
   const char* getTypeName() const override { return Traits::kTypeName; }
   void SetLumericValue(Term* value, int i, int j, FieldExpression* at) override;
   Term* GetLumericValue(int i, int j, FieldExpression* at) override;

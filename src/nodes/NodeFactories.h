@@ -12,9 +12,12 @@ class QvNode;
 
 // One of the standard VRML 1.0 classes, or null.
 QvNode* createStandardNode(const char* className);
-// One of the extension node classes (PARAMETERS, LOOP, SELECT, Ball,
-// Connect, Wall), or null.
+// One of the extension node classes (PARAMETERS, LOOP, SELECT, and the
+// generators), or null.
 QvNode* createExtensionNode(const char* className);
+// One of the geometry generators (Ball, Connect, Wall), or null
+// (nodes/generators/GeneratorFactory.cpp).
+QvNode* createGeneratorNode(const char* className);
 // The statement of a keyword (USE, SET, APPEND, DECLARE, OUTPUT_TO,
 // INCLUDE, PRECISION, PRINT), or null.
 QvNode* createStatement(const char* keyword);

@@ -1,11 +1,11 @@
 #include "nodes/QvAsciiText.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvAsciiText::QvAsciiText() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("string", string).setDefault("");
   fields.add("spacing", spacing).setDefault(1);
   fields.add("justification", justification).setDefault(0);  // LEFT

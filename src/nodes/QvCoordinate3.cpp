@@ -1,11 +1,11 @@
 #include "nodes/QvCoordinate3.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvCoordinate3::QvCoordinate3() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("point", point).setDefault(0, 0, 0);
 }
 

@@ -1,11 +1,11 @@
 #include "nodes/QvCube.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvCube::QvCube() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("width", width).setDefault(2);
   fields.add("height", height).setDefault(2);
   fields.add("depth", depth).setDefault(2);

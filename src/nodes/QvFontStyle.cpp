@@ -1,11 +1,11 @@
 #include "nodes/QvFontStyle.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvFontStyle::QvFontStyle() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("size", size).setDefault(10);
   fields.add("family", family).setDefault(0);  // SERIF
   fields.enumerate(family, "Family", {{"SERIF", 0}, {"SANS", 1}, {"TYPEWRITER", 2}});

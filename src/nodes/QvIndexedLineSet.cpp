@@ -1,11 +1,11 @@
 #include "nodes/QvIndexedLineSet.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvIndexedLineSet::QvIndexedLineSet() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("coordIndex", coordIndex).setDefault(0);
   fields.add("materialIndex", materialIndex).setDefault(-1);
   fields.add("normalIndex", normalIndex).setDefault(-1);

@@ -1,11 +1,11 @@
 #include "nodes/QvInfo.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvInfo::QvInfo() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("string", string).setDefault("<Undefined info>");
 }
 

@@ -1,11 +1,11 @@
 #include "nodes/QvLOD.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvLOD::QvLOD() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("range", range).setNum(0);
   fields.add("center", center).setDefault(0, 0, 0);
 }

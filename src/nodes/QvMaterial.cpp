@@ -1,11 +1,11 @@
 #include "nodes/QvMaterial.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvMaterial::QvMaterial() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("ambientColor", ambientColor).setDefault(0.2, 0.2, 0.2);
   fields.add("diffuseColor", diffuseColor).setDefault(0.8, 0.8, 0.8);
   fields.add("specularColor", specularColor).setDefault(0, 0, 0);

@@ -1,11 +1,11 @@
 #include "nodes/QvMatrixTransform.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvMatrixTransform::QvMatrixTransform() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("matrix", matrix).setIdentityDefault();
 }
 

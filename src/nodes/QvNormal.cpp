@@ -1,11 +1,11 @@
 #include "nodes/QvNormal.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvNormal::QvNormal() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("vector", vector).setDefault(0, 0, 1);
 }
 

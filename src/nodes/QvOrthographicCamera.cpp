@@ -1,11 +1,11 @@
 #include "nodes/QvOrthographicCamera.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvOrthographicCamera::QvOrthographicCamera() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("position", position).setDefault(0, 0, 1);
   fields.add("orientation", orientation).setDefault(0, 0, 1, 0);
   fields.add("focalDistance", focalDistance).setDefault(5);

@@ -1,11 +1,11 @@
 #include "nodes/QvPointSet.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvPointSet::QvPointSet() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("startIndex", startIndex).setDefault(0);
   fields.add("numPoints", numPoints).setDefault(-1);
 }

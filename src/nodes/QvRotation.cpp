@@ -1,11 +1,11 @@
 #include "nodes/QvRotation.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvRotation::QvRotation() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("rotation", rotation).setDefault(0, 0, 1, 0);
 }
 

@@ -1,11 +1,11 @@
 #include "nodes/QvScale.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvScale::QvScale() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("scaleFactor", scaleFactor).setDefault(1, 1, 1);
 }
 

@@ -1,11 +1,11 @@
 #include "nodes/QvSeparator.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvSeparator::QvSeparator() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("renderCulling", renderCulling).setDefault(2);  // AUTO
   fields.enumerate(renderCulling, "CullEnabled", {{"ON", 1}, {"OFF", 0}, {"AUTO", 2}});
 }

@@ -1,11 +1,11 @@
 #include "nodes/QvShapeHints.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvShapeHints::QvShapeHints() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("vertexOrdering", vertexOrdering).setDefault(0);  // UNKNOWN_ORDERING
   fields.enumerate(vertexOrdering, "VertexOrdering", {{"UNKNOWN_ORDERING", 0}, {"CLOCKWISE", 1}, {"COUNTERCLOCKWISE", 2}});
   fields.add("shapeType", shapeType).setDefault(0);  // UNKNOWN_SHAPE_TYPE

@@ -1,11 +1,11 @@
 #include "nodes/QvSphere.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvSphere::QvSphere() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("radius", radius).setDefault(1);
 }
 

@@ -1,11 +1,11 @@
 #include "nodes/QvSpotLight.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvSpotLight::QvSpotLight() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("on", on).setDefault(true);
   fields.add("intensity", intensity).setDefault(1);
   fields.add("color", color).setDefault(1, 1, 1);

@@ -11,7 +11,7 @@
 #include "reader/NodeReader.h"
 #include "scene/NodeVisit.h"
 #include "scene/QvGroupNode.h"
-#include "scene/QvNodeClass.h"
+#include "scene/NodeClass.h"
 #include "writer/SceneWriter.h"
 
 namespace lumeric {
@@ -27,17 +27,17 @@ class QvStandardNode : public Base {
   QvFieldTable* getFieldTable() override { return nodeClass().table(); }
   const char* getClassName() const override { return Derived::kClassName; }
 
-  void evaluate(QvGroupNode* parent, bool copy) override {
+  void evaluate(QvGroupNode* parentGroup, bool copy) override {
     if constexpr (kIsGroup) {
-      QvGroupNode::evaluate(parent, copy);
+      QvGroupNode::evaluate(parentGroup, copy);
     } else if (copy) {
       // The copy keeps its values as texts, so the terms evaluated for it
       // can go at once: a LOOP of many leaves would otherwise hold every
       // repetition's terms until the end of the run.
       TermScope scope;
-      this->evaluateLeaf(parent, copy);
+      this->evaluateLeaf(parentGroup, copy);
     } else {
-      this->evaluateLeaf(parent, copy);
+      this->evaluateLeaf(parentGroup, copy);
     }
   }
 
@@ -76,8 +76,8 @@ class QvStandardNode : public Base {
   }
 
   // The class's shared information, its field table included.
-  static QvNodeClass& nodeClass() {
-    static QvNodeClass info(Derived::kClassName);
+  static NodeClass& nodeClass() {
+    static NodeClass info(Derived::kClassName);
     return info;
   }
 

@@ -1,11 +1,11 @@
 #include "nodes/QvSwitch.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvSwitch::QvSwitch() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("whichChild", whichChild).setDefault(-1);
 }
 

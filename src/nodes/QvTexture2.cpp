@@ -1,11 +1,11 @@
 #include "nodes/QvTexture2.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvTexture2::QvTexture2() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("filename", filename).setDefault("");
   fields.add("image", image);
   fields.add("wrapS", wrapS).setDefault(0);  // REPEAT

@@ -1,11 +1,11 @@
 #include "nodes/QvTexture2Transform.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvTexture2Transform::QvTexture2Transform() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("translation", translation).setDefault(0, 0);
   fields.add("rotation", rotation).setDefault(0);
   fields.add("scaleFactor", scaleFactor).setDefault(1, 1);

@@ -1,11 +1,11 @@
 #include "nodes/QvTextureCoordinate2.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvTextureCoordinate2::QvTextureCoordinate2() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("point", point).setDefault(0, 0);
 }
 

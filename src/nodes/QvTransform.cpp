@@ -1,11 +1,11 @@
 #include "nodes/QvTransform.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvTransform::QvTransform() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("translation", translation).setDefault(0, 0, 0);
   fields.add("rotation", rotation).setDefault(0, 0, 1, 0);
   fields.add("scaleFactor", scaleFactor).setDefault(1, 1, 1);

@@ -1,11 +1,11 @@
 #include "nodes/QvTranslation.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvTranslation::QvTranslation() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("translation", translation).setDefault(0, 0, 0);
 }
 

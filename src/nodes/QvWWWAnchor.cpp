@@ -1,11 +1,11 @@
 #include "nodes/QvWWWAnchor.h"
 
-#include "nodes/QvFieldRegistrar.h"
+#include "nodes/FieldRegistrar.h"
 
 namespace lumeric {
 
 QvWWWAnchor::QvWWWAnchor() {
-  QvFieldRegistrar fields(this, nodeClass());
+  FieldRegistrar fields(this, nodeClass());
   fields.add("name", name).setDefault("");
   fields.add("description", description).setDefault("");
   fields.add("map", map).setDefault(0);  // NONE

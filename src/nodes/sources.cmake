@@ -48,6 +48,7 @@ set(LUMERIC_NODE_SOURCES
   src/nodes/extensions/QvSelect.cpp
   src/nodes/extensions/QvStatementNode.cpp
   src/nodes/extensions/QvUseStatement.cpp
+  src/nodes/generators/GeneratorFactory.cpp
   src/nodes/generators/GeometryWriter.cpp
   src/nodes/generators/QvBall.cpp
   src/nodes/generators/QvConnect.cpp

@@ -1,7 +1,5 @@
 #include "reader/FieldReading.h"
 
-#include <cstring>
-
 #include "core/QvAtom.h"
 #include "reader/QvSceneInput.h"
 #include "reader/ReadErrors.h"
@@ -13,8 +11,6 @@
 namespace lumeric {
 
 namespace {
-
-bool named(QvAtom atom, const char* text) { return std::strcmp(atom.text(), text) == 0; }
 
 bool readFieldSpecs(QvSceneInput* in, QvNode* node) {
   QvFieldTable* table = node->getFieldTable();
@@ -90,9 +86,9 @@ bool readFieldSpecification(QvSceneInput* in, QvNode* node) {
   QvAtom word;
   if (!in->readName(word, QvSceneInput::kLowerName)) return true;
   bool ok = true;
-  if (named(word, "fields")) {
+  if (word.named("fields")) {
     ok = readFieldSpecs(in, node);
-  } else if (named(word, "field")) {
+  } else if (word.named("field")) {
     ok = readFieldSpec(in, node);
   } else {
     in->putBackWord(word.text());

@@ -7,6 +7,7 @@
 #include "core/CharacterClasses.h"
 #include "core/MessageDetails.h"
 #include "core/QvContext.h"
+#include "core/LastingState.h"
 #include "core/RunState.h"
 #include "reader/FieldReading.h"
 #include "reader/QvSceneInput.h"
@@ -32,13 +33,11 @@ class NestingLevel {
   NestingLevel& operator=(const NestingLevel&) = delete;
 };
 
-bool named(QvAtom atom, const char* text) { return std::strcmp(atom.text(), text) == 0; }
-
 // The statement `name` starts, or null when it starts none.  The statement
 // factory is the one list of keywords; USE belongs to plain VRML, the
 // others only to the extended language.
 QvNode* createStatementFor(QvAtom name) {
-  if (!theRun.extensionsEnabled && !named(name, "USE")) return nullptr;
+  if (!theRun.extensionsEnabled && !name.named("USE")) return nullptr;
   return sceneOperations().createStatement(name.text());
 }
 
@@ -80,7 +79,7 @@ bool expectChar(QvSceneInput* in, char expected) {
 // The DEF or VARNAME prefix: reads what follows the keyword and leaves the
 // real type name in `typeName`.
 bool readPrefix(QvSceneInput* in, QvAtom& typeName, QvAtom& defName, std::unique_ptr<FieldExpression>& nameText) {
-  if (named(typeName, "DEF")) {
+  if (typeName.named("DEF")) {
     bool readsOk = in->readName(defName, QvSceneInput::kDefName) && in->readName(typeName, QvSceneInput::kUpperName);
     if (!readsOk) typeName = QvAtom();
     bool ok = readsOk;
@@ -95,7 +94,7 @@ bool readPrefix(QvSceneInput* in, QvAtom& typeName, QvAtom& defName, std::unique
     }
     return ok;
   }
-  if (named(typeName, "VARNAME") && theRun.extensionsEnabled) {
+  if (typeName.named("VARNAME") && theRun.extensionsEnabled) {
     nameText = std::make_unique<FieldExpression>();
     bool readsOk = in->readValueText(*nameText, nullptr);
     readsOk = in->readName(typeName, QvSceneInput::kUpperName) && readsOk;
@@ -165,7 +164,7 @@ bool readNode(QvSceneInput* in, QvNode*& node) {
   NestingLevel level;
   QvAtom typeName;
   if (!in->readName(typeName, QvSceneInput::kUpperName)) return in->isUsable();
-  if (typeName.isEmpty() || named(typeName, "NULL")) return true;
+  if (typeName.isEmpty() || typeName.named("NULL")) return true;
   int line = in->getLine();
   if (theRun.readingDepth > kMaxNodeDepth) {
     return readError(in, "Nodes nested too deep - at most %d levels", kMaxNodeDepth);

@@ -13,7 +13,7 @@
 
 #include "core/QvAtom.h"
 #include "core/CharacterClasses.h"
-#include "scene/QvDefTable.h"
+#include "scene/DefTable.h"
 
 namespace lumeric {
 
@@ -110,7 +110,7 @@ class QvSceneInput {
   bool isUsable() const;
 
   // The DEF table of the scene read through this input.
-  QvDefTable& defNames() { return defTable_; }
+  DefTable& defNames() { return defTable_; }
   // Enters `node` under `name` in the DEF table (replacing an earlier node)
   // and names the node.  Tells whether the table already held that name.
   bool addName(QvAtom name, QvNode* node) { return defTable_.addName(name, node); }
@@ -127,7 +127,7 @@ class QvSceneInput {
   bool readClampedInteger(Integer& value);
 
   SavedState state_;
-  QvDefTable defTable_;
+  DefTable defTable_;
 };
 
 }  // namespace lumeric

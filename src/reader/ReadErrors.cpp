@@ -11,7 +11,7 @@ namespace lumeric {
 Failure readError(const QvSceneInput* in, const char* format, ...) {
   // Formatted first and posted as "%s": the message is cut as a whole, and
   // a long text may exceed what one message holds.
-  static char text[10000];
+  char text[10000];
   LUMERIC_WITH_VA_ARGS(std::vsnprintf(text, sizeof text, format, args));
   return theContext.reportAtLineInFile(in != nullptr ? in->getLine() : 0, "%s", text);
 }

@@ -7,8 +7,8 @@ namespace lumeric {
 
 QvDeclaredFieldsNode::~QvDeclaredFieldsNode() = default;
 
-QvField* QvDeclaredFieldsNode::findDeclaredField(const char* name) {
-  return declaredFields.findField(this, QvAtom(name));
+QvField* QvDeclaredFieldsNode::findDeclaredField(const char* fieldName) {
+  return declaredFields.findField(this, QvAtom(fieldName));
 }
 
 void QvDeclaredFieldsNode::cloneDeclaredFieldsInto(QvDeclaredFieldsNode* copy) {

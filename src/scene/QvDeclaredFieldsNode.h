@@ -21,7 +21,7 @@ class QvDeclaredFieldsNode : public QvGroupNode {
   QvFieldTable* getFieldTable() override { return &declaredFields; }
 
   // The first declared field named `name`, or null.
-  QvField* findDeclaredField(const char* name);
+  QvField* findDeclaredField(const char* fieldName);
 
   QvFieldTable declaredFields{true};
 

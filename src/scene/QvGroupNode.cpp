@@ -32,7 +32,7 @@ void QvGroupNode::evaluate(QvGroupNode* parentGroup, bool copy) {
     if (!admitCopy(this)) return;
     QvGroupNode* duplicate = static_cast<QvGroupNode*>(newInstance());
     if (duplicate != nullptr) {
-      QvNodeRef keep(duplicate);
+      NodeRef keep(duplicate);
       initCopy(duplicate);
       if (parentGroup != nullptr) parentGroup->addChild(duplicate);
       evaluateChildren(duplicate, true);

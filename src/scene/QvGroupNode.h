@@ -16,8 +16,8 @@ class QvGroupNode : public QvNode {
 
   bool isGroup() const override { return true; }
   // Evaluates the children in place, or adds an evaluated copy of the whole
-  // subtree to `parent`.  Children appended while this runs are visited too.
-  void evaluate(QvGroupNode* parent, bool copy) override;
+  // subtree to `parentGroup`.  Children appended while this runs are visited too.
+  void evaluate(QvGroupNode* parentGroup, bool copy) override;
   void bindParents() override;
   // The plain group form: opening line, children, closing line.
   void write(SceneWriter& out) override;

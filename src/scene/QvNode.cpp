@@ -3,11 +3,12 @@
 #include <string>
 
 #include "core/CharacterClasses.h"
+#include "core/LastingState.h"
 #include "core/RunState.h"
 #include "scene/FieldExpression.h"
 #include "scene/NodeVisit.h"
 #include "scene/CopyBudget.h"
-#include "scene/QvDefTable.h"
+#include "scene/DefTable.h"
 #include "scene/QvField.h"
 #include "scene/QvFieldTable.h"
 #include "scene/QvGroupNode.h"

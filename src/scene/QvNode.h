@@ -28,9 +28,9 @@ class QvNode {
   // whose fields are declared in the file); null for statements.
   virtual QvFieldTable* getFieldTable() = 0;
   // The evaluation pass.  With `copy` set the node adds an evaluated copy of
-  // itself to `parent`; otherwise it evaluates in place.  Call sites that
+  // itself to `parentGroup`; otherwise it evaluates in place.  Call sites that
   // know which they want use evaluateInPlace or copyInto.
-  virtual void evaluate(QvGroupNode* parent, bool copy) = 0;
+  virtual void evaluate(QvGroupNode* parentGroup, bool copy) = 0;
   // Evaluates the node where it stands.
   void evaluateInPlace() { evaluate(nullptr, false); }
   // Adds an evaluated copy of the node (and of its subtree) to `target`.
@@ -88,8 +88,9 @@ class QvNode {
 
  protected:
   // The leaf pattern of evaluate(): record the parent, and when copying add
-  // an evaluated copy (made by newInstance and the class table) to `parent`.
-  void evaluateLeaf(QvGroupNode* parent, bool copy);
+  // an evaluated copy (made by newInstance and the class table) to
+  // `parentGroup`.
+  void evaluateLeaf(QvGroupNode* parentGroup, bool copy);
   // A node of the same class: with its constructor defaults, or, for a
   // node whose fields are its own, with evaluated clones of them.
   virtual QvNode* newInstance() { return nullptr; }
@@ -109,16 +110,16 @@ class QvNode {
 };
 
 // Keeps a reference on a node for the lifetime of the holder.
-class QvNodeRef {
+class NodeRef {
  public:
-  explicit QvNodeRef(QvNode* node) : node_(node) {
+  explicit NodeRef(QvNode* node) : node_(node) {
     if (node_ != nullptr) node_->ref();
   }
-  ~QvNodeRef() {
+  ~NodeRef() {
     if (node_ != nullptr) node_->unref();
   }
-  QvNodeRef(const QvNodeRef&) = delete;
-  QvNodeRef& operator=(const QvNodeRef&) = delete;
+  NodeRef(const NodeRef&) = delete;
+  NodeRef& operator=(const NodeRef&) = delete;
   QvNode* get() const { return node_; }
 
  private:

@@ -1,8 +1,8 @@
 // Operations the scene and the reader need but that live in higher layers:
 // the node and field factories and the evaluation of a VARNAME expression.
-// The driver installs them at start-up (installSceneOperations), so that
-// these layers never include the node classes, the field types or the
-// expression language.
+// The driver installs them (installSceneOperations) at the start of every
+// entry point, so that these layers never include the node classes, the
+// field types or the expression language.
 #ifndef LUMERIC_SCENE_SCENEOPERATIONS_H
 #define LUMERIC_SCENE_SCENEOPERATIONS_H
 

@@ -5,12 +5,12 @@ set(LUMERIC_SCENE_SOURCES
   src/scene/FieldNameCandidates.cpp
   src/scene/NodeVisit.cpp
   src/scene/QvDeclaredFieldsNode.cpp
-  src/scene/QvDefTable.cpp
+  src/scene/DefTable.cpp
   src/scene/QvField.cpp
   src/scene/QvFieldTable.cpp
   src/scene/QvGroupNode.cpp
   src/scene/QvNode.cpp
-  src/scene/QvNodeClass.cpp
+  src/scene/NodeClass.cpp
   src/scene/SceneMessages.cpp
   src/scene/SceneOperations.cpp
 )

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "core/NumberText.h"
-#include "core/RunState.h"
+#include "core/LastingState.h"
 
 namespace lumeric {
 
@@ -37,6 +37,17 @@ SceneWriter& SceneWriter::number(double v) {
   makeRoom(kNumberTextSize);
   used_ += static_cast<size_t>(formatNumber(buffer_ + used_, v));
   return *this;
+}
+
+double roundToPrecision(double v) {
+  const double q = precisionQuantum;
+  if (!(q > 0)) return v;
+  // Values too large for the step keep their own digits rather than
+  // overflow to infinity.
+  const double steps = v / q;
+  if (!std::isfinite(steps)) return v;
+  const double r = std::round(steps) * q;
+  return std::isfinite(r) ? r : v;
 }
 
 SceneWriter& SceneWriter::rounded(double v) { return number(roundToPrecision(v)); }

@@ -26,6 +26,12 @@ struct ListLayout {
   bool bracketsAroundOne;
 };
 
+// `v` rounded to the nearest multiple of the PRECISION step
+// (precisionQuantum, halves away from zero); unchanged when the step is 0 or
+// less, and when the value is too large for the step (rounding never makes a
+// finite value infinite).
+double roundToPrecision(double v);
+
 // One item to a line, the rows of vectors and strings.
 constexpr ListLayout kOneItemPerLine{1, false, false};
 // Every item on the opening line.

@@ -1,6 +1,7 @@
 set(LUMERIC_CORE_TESTS
+  core/AtomsAndTablesTest.cpp
   core/FloatTextTest.cpp
+  core/GrowingListsTest.cpp
   core/NumberTextTest.cpp
   core/QvContextTest.cpp
-  core/RoundingTest.cpp
 )

@@ -98,8 +98,8 @@ TEST_P(GuideExampleTest, GivesWhatTheGuideShows) {
 
 
 INSTANTIATE_TEST_SUITE_P(Guide, GuideExampleTest, ::testing::ValuesIn(guideExamples()),
-                         [](const ::testing::TestParamInfo<GuideExample>& info) {
-                           return "line_" + std::to_string(info.param.line);
+                         [](const ::testing::TestParamInfo<GuideExample>& tested) {
+                           return "line_" + std::to_string(tested.param.line);
                          });
 
 }  // namespace

@@ -1,3 +1,4 @@
 set(LUMERIC_DRIVER_TESTS
+  driver/ManyRunsTest.cpp
   driver/SceneParametersTest.cpp
 )

@@ -67,7 +67,7 @@ TEST_P(FaceSetBinding, ColoursTheFaces) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Export, FaceSetBinding, ::testing::ValuesIn(kFaceSetCases),
-                         [](const ::testing::TestParamInfo<BindingCase>& info) { return info.param.binding; });
+                         [](const ::testing::TestParamInfo<BindingCase>& tested) { return tested.param.binding; });
 
 TEST(FaceSetBinding, PerVertexColoursFollowTheVertices) {
   const ExportRun run = exportText(twoFaces("PER_VERTEX", "-1"));

@@ -68,7 +68,7 @@ TEST_P(ConcavePolygons, CoverTheOutlineExactlyOnce) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Export, ConcavePolygons, ::testing::ValuesIn(kConcave),
-                         [](const ::testing::TestParamInfo<PolygonCase>& info) { return info.param.name; });
+                         [](const ::testing::TestParamInfo<PolygonCase>& tested) { return tested.param.name; });
 
 TEST(ConvexPolygons, AreFannedFromTheFirstCorner) {
   const std::vector<Point3> hexagon = outline({{1, 0}, {2, 0}, {3, 1}, {2, 2}, {1, 2}, {0, 1}});

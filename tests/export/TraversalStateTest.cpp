@@ -73,7 +73,7 @@ TEST_P(GroupingNodes, KeepOrRestoreTheState) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Export, GroupingNodes, ::testing::ValuesIn(kGroupingCases),
-                         [](const ::testing::TestParamInfo<GroupingCase>& info) { return info.param.name; });
+                         [](const ::testing::TestParamInfo<GroupingCase>& tested) { return tested.param.name; });
 
 struct TransformCase {
   const char* name;
@@ -106,7 +106,7 @@ TEST_P(Transformations, PlaceTheCube) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Export, Transformations, ::testing::ValuesIn(kTransformCases),
-                         [](const ::testing::TestParamInfo<TransformCase>& info) { return info.param.name; });
+                         [](const ::testing::TestParamInfo<TransformCase>& tested) { return tested.param.name; });
 
 TEST(ExportMirror, KeepsFacesLookingOutwards) {
   for (const char* mirror : {"Scale { scaleFactor -1 1 1 }", "Scale { scaleFactor 1 -2 1 }",

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/LastingState.h"
 #include "core/QvContext.h"
 #include "expr/ExpressionFixture.h"
 #include "expr/TermArena.h"
@@ -323,14 +324,14 @@ TEST_F(EvaluationTest, EntryPointsAnswerDifferently) {
 }
 
 TEST_F(EvaluationTest, EachEvaluationDrawsTwoSerials) {
-  const int before = theContext.serialCounter;
+  const int before = expressionSerials;
   double value = 0;
   evaluateScalar(expression("1"), &value);
   EXPECT_EQ(theContext.currentSerial, before + 1);
-  EXPECT_EQ(theContext.serialCounter, before + 2);
+  EXPECT_EQ(expressionSerials, before + 2);
   // Nothing to parse: the evaluation starts but the parser draws nothing.
   evaluateTerm(expression(""));
-  EXPECT_EQ(theContext.serialCounter, before + 3);
+  EXPECT_EQ(expressionSerials, before + 3);
 }
 
 TEST_F(EvaluationTest, MessagesCarryTheExpressionLine) {

@@ -183,7 +183,7 @@ TEST_F(ExpressionLexerTest, DescribesTokens) {
       {200, "char 200"},    {256, "[error]"},  {257, "AND"},      {266, "ELSE"},       {272, "NE"},
       {278, "TRUE"},        {279, "char 279"}, {-1, "char -1"},
   };
-  for (const Case& c : cases) EXPECT_STREQ(ExpressionLexer::describeToken(c.code), c.text) << c.code;
+  for (const Case& c : cases) EXPECT_EQ(ExpressionLexer::describeToken(c.code), c.text) << c.code;
 }
 
 }  // namespace

@@ -2,9 +2,9 @@
 
 namespace lumeric {
 
-TestField* TestNode::addField(const char* name, const char* text) {
+TestField* TestNode::addField(const char* fieldName, const char* text) {
   TestField* field = new TestField(text);
-  table_.addField(this, name, field);
+  table_.addField(this, fieldName, field);
   field->attachNode(this);
   return field;
 }

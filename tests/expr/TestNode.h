@@ -13,7 +13,7 @@ class TestNode : public QvNode {
   TestNode() : table_(true) { line = 20; }
 
   // Adds a field holding `text`; the node owns it.
-  TestField* addField(const char* name, const char* text);
+  TestField* addField(const char* fieldName, const char* text);
 
   QvFieldTable* getFieldTable() override { return &table_; }
   void evaluate(QvGroupNode*, bool) override {}

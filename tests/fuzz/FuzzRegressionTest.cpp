@@ -68,7 +68,7 @@ TEST_P(FuzzRegression, ExportsAsPlainScene) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, FuzzRegression, ::testing::ValuesIn(regressionFiles()),
-                         [](const ::testing::TestParamInfo<std::string>& info) { return testIdFromFileName(info.param); });
+                         [](const ::testing::TestParamInfo<std::string>& tested) { return testIdFromFileName(tested.param); });
 
 }  // namespace
 }  // namespace lumeric

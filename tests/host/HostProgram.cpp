@@ -40,33 +40,32 @@ int check(const char* path, const char* type, CollectingView& view) {
   return CheckSyntax(input.data(), &view, directory, fileType.data());
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  if (argc != 2) {
-    std::fprintf(stderr, "usage: lumeric_host_program SCENE\n");
-    return 2;
-  }
+// A scene translates to output.wrl with result 0, twice the same.
+void checkTranslationRepeats(const char* scene) {
   char outputName[256] = "";
-
-  // A scene translates to output.wrl with result 0, twice the same.
   CollectingView first;
-  expect(translate(argv[1], first, outputName) == 0, "a good scene gives 0");
+  expect(translate(scene, first, outputName) == 0, "a good scene gives 0");
   expect(std::strcmp(outputName, "output.wrl") == 0, "the output is named output.wrl");
   std::string once = readAll("output.wrl");
   expect(once.compare(0, 18, "#VRML V1.0 ascii\n\n") == 0, "the output starts with the VRML header");
   CollectingView second;
-  translate(argv[1], second, outputName);
+  translate(scene, second, outputName);
   expect(readAll("output.wrl") == once, "two runs in a row write the same scene");
   expect(first.messages == second.messages, "two runs in a row post the same messages");
+}
 
-  // A file with a header and no node gives 1 and no message.
+// A file with a header and no node gives 1 and no message.
+void checkSceneWithoutNode() {
+  char outputName[256] = "";
   writeAll("host_empty.wrl", "#VRML V1.0 ascii\n\n");
   CollectingView empty;
   expect(translate("host_empty.wrl", empty, outputName) == 1, "a scene without a node gives 1");
   expect(empty.messages.empty(), "a scene without a node posts nothing");
+}
 
-  // A read error inside the root keeps the root: result 0 and the message.
+// A read error inside the root keeps the root: result 0 and the message.
+void checkPartialTree() {
+  char outputName[256] = "";
   writeAll("host_partial.wrl", "#VRML V1.0 ascii\nGroup { Cube { } Foo { } }\n");
   CollectingView partial;
   expect(translate("host_partial.wrl", partial, outputName) == 0, "a partial tree gives 0");
@@ -74,8 +73,10 @@ int main(int argc, char** argv) {
              partial.messages[0] == "error: File \"host_partial.wrl\" Line 2: Unknown class \"Foo\"",
          "the unknown class is reported at its file and line");
   expect(readAll("output.wrl").find("Cube {") != std::string::npos, "the partial tree is written");
+}
 
-  // The extended language only for the file type "vlm", in any case.
+// The extended language only for the file type "vlm", in any case.
+void checkFileTypes() {
   writeAll("host_declare.wrl", "#VRML V1.0 ascii\nGroup {\n\tDECLARE x:y 3\n}\n");
   CollectingView extended;
   expect(check("host_declare.wrl", "VLM", extended) == 0, "CheckSyntax gives 0");
@@ -85,15 +86,21 @@ int main(int argc, char** argv) {
   check("host_declare.wrl", "wrl", plain);
   expect(plain.messages.size() == 1 && plain.messages[0].find("Expected '{'; got 'x'") != std::string::npos,
          "with \"wrl\" DECLARE is a node type name");
+}
 
-  // A file that does not exist reaches the view of this very call.
+// A file that does not exist reaches the view of this very call.
+void checkMissingFile() {
+  char outputName[256] = "";
   CollectingView missing;
   char missingPath[] = "no-such-scene.vlm";
   expect(ParseVRMLLumeric(missingPath, &missing, nullptr, outputName) == 0, "a missing file gives 0");
   expect(missing.messages.size() == 2 && missing.messages[1] == "error: Path name is NULL",
          "a missing file without a directory posts two errors");
+}
 
-  // Warnings are the host's to switch on.
+// Warnings are the host's to switch on.
+void checkWarningSwitch() {
+  char outputName[256] = "";
   writeAll("host_warn.wrl", "#VRML V1.0 ascii\nGroup { Foo { fields [ ] } }\n");
   gWarn = 2;
   CollectingView warned;
@@ -102,6 +109,20 @@ int main(int argc, char** argv) {
   expect(warned.messages.size() == 1 &&
              warned.messages[0] == "File \"host_warn.wrl\" Line 2: Warning: Unknown \"Foo\" node found",
          "gWarn 2 enables the unknown-node warning, posted with flag 0");
+}
 
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 2) {
+    std::fprintf(stderr, "usage: lumeric_host_program SCENE\n");
+    return 2;
+  }
+  checkTranslationRepeats(argv[1]);
+  checkSceneWithoutNode();
+  checkPartialTree();
+  checkFileTypes();
+  checkMissingFile();
+  checkWarningSwitch();
   return checks.result();
 }

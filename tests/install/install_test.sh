@@ -1,6 +1,8 @@
 #!/usr/bin/env bash
 # Installs the build tree into a scratch prefix and uses only what was
-# installed: the layout, the shared libraries' SONAMEs, the command, host
+# installed: the layout (the library directory as the build was configured:
+# lib, or lib/x86_64-linux-gnu under /usr on Debian), every example, the
+# shared libraries' SONAMEs, the package's version rule, the command, host
 # programs built through find_package(lumeric) and through pkg-config, for
 # the translator and for the exporter, each of which runs its library.
 set -euo pipefail
@@ -14,6 +16,8 @@ while [ $# -gt 0 ]; do
     --build-dir) build_dir="$2" ;;
     --work-dir) work="$2" ;;
     --tests-dir) tests_dir="$2" ;;
+    --libdir) libdir="$2" ;;
+    --examples-dir) examples_dir="$2" ;;
     *) echo "install test: unknown argument $1" >&2; exit 2 ;;
   esac
   shift 2
@@ -36,18 +40,35 @@ prefix="$work/prefix"
 # The layout.
 for file in bin/lumeric include/lumeric/lumeric.h include/lumeric/export.h share/man/man1/lumeric.1 \
     share/doc/lumeric/README.md share/doc/lumeric/language.md share/doc/lumeric/examples/expressions.vlm \
-    lib/cmake/lumeric/lumericConfig.cmake lib/cmake/lumeric/lumericConfigVersion.cmake \
-    lib/pkgconfig/lumeric.pc lib/pkgconfig/lumeric-export.pc; do
+    "$libdir/cmake/lumeric/lumericConfig.cmake" "$libdir/cmake/lumeric/lumericConfigVersion.cmake" \
+    "$libdir/pkgconfig/lumeric.pc" "$libdir/pkgconfig/lumeric-export.pc"; do
   [ -f "$prefix/$file" ] || fail "$file is not installed"
 done
+for example in "$examples_dir"/*.vlm "$examples_dir"/*.wrl; do
+  file="share/doc/lumeric/examples/$(basename "$example")"
+  [ -f "$prefix/$file" ] || fail "$file is not installed"
+done
+lib="$prefix/$libdir"
 for name in liblumeric liblumeric_export; do
-  library=$(cd "$prefix/lib" && ls $name.so.*.*.*)
-  soname=$(objdump -p "$prefix/lib/$library" | awk '$1 == "SONAME" {print $2}')
+  library=$(cd "$lib" && ls $name.so.*.*.*)
+  soname=$(objdump -p "$lib/$library" | awk '$1 == "SONAME" {print $2}')
   version=${library#$name.so.}
   [ "$soname" = "$name.so.${version%%.*}" ] || fail "SONAME is '$soname', not $name.so.${version%%.*}"
-  [ -L "$prefix/lib/$soname" ] || fail "lib/$soname is not a link to $library"
-  [ -L "$prefix/lib/$name.so" ] || fail "lib/$name.so (for linking) is missing"
+  [ -L "$lib/$soname" ] || fail "$libdir/$soname is not a link to $library"
+  [ -L "$lib/$name.so" ] || fail "$libdir/$name.so (for linking) is missing"
 done
+# The package accepts what the SONAME loads: the same major version from the
+# requested version on, and no other major version.
+version_file="$lib/cmake/lumeric/lumericConfigVersion.cmake"
+printf '%s\n' "include(\"$version_file\")" 'if(PACKAGE_VERSION_COMPATIBLE)' '  message("yes")' 'endif()' \
+  >"$work/accepts.cmake"
+accepts() {
+  "$cmake" -DPACKAGE_FIND_VERSION="$1" -DPACKAGE_FIND_VERSION_MAJOR="${1%%.*}" -DPACKAGE_FIND_VERSION_MINOR="${1#*.}" \
+    -DPACKAGE_FIND_VERSION_COUNT=2 -P "$work/accepts.cmake" 2>&1 | grep -qx yes
+}
+major=${version%%.*}
+accepts "$major.0" || fail "the package refuses a request for $major.0"
+if accepts "$((major + 1)).0"; then fail "the package accepts a request for $((major + 1)).0"; fi
 
 # The installed command translates an installed example.
 "$prefix/bin/lumeric" --version | grep -q '^lumeric [0-9]' || fail "lumeric --version"
@@ -62,7 +83,7 @@ scene="$tests_dir/host/host_scene.vlm"
 run_host() {
   local program="$1" name="$2"
   mkdir -p "$work/run-$name"
-  (cd "$work/run-$name" && LD_LIBRARY_PATH="$prefix/lib" "$program" "$scene") ||
+  (cd "$work/run-$name" && LD_LIBRARY_PATH="$lib" "$program" "$scene") ||
     fail "the host program built through $name"
 }
 
@@ -78,7 +99,7 @@ run_host() {
 run_host "$work/by-package/host_by_package" find_package
 run_host "$work/by-package/export_host_by_package" find_package-export
 
-export PKG_CONFIG_LIBDIR="$prefix/lib/pkgconfig"
+export PKG_CONFIG_LIBDIR="$lib/pkgconfig"
 unset PKG_CONFIG_PATH
 pc_flags=$("$pkg_config" --cflags --libs lumeric) || fail "pkg-config does not know lumeric"
 case "$pc_flags" in *"$prefix"*) ;; *) fail "pkg-config flags '$pc_flags' do not point into the prefix" ;; esac

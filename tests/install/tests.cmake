@@ -22,7 +22,9 @@ add_test(NAME install.tree
     --flags "${lumeric_consumer_flags}"
     --build-dir ${PROJECT_BINARY_DIR}
     --work-dir ${CMAKE_CURRENT_BINARY_DIR}/install-test
-    --tests-dir ${CMAKE_CURRENT_LIST_DIR}/..)
+    --tests-dir ${CMAKE_CURRENT_LIST_DIR}/..
+    --libdir ${CMAKE_INSTALL_LIBDIR}
+    --examples-dir ${PROJECT_SOURCE_DIR}/examples)
 set_tests_properties(install.tree PROPERTIES TIMEOUT 240)
 
 # The manual page must format without a warning.

@@ -37,6 +37,7 @@ class GeometryWriterTest : public RecordedTest {
   }
 
   SceneWriter& out() { return *out_; }
+  GeometryOutput to() { return GeometryOutput{*out_, nullptr}; }
 
  private:
   FILE* stream_ = nullptr;
@@ -47,9 +48,9 @@ class GeometryWriterTest : public RecordedTest {
 };
 
 TEST_F(GeometryWriterTest, SphereRadiusFollowsThePrecisionStep) {
-  writeSphere(out(), "", 0.123456);
+  writeSphere(to(), "", 0.123456);
   precisionQuantum = 0;
-  writeSphere(out(), "S", 0.123456);
+  writeSphere(to(), "S", 0.123456);
   EXPECT_EQ(written(), "Sphere {\n\tradius 0.1235\n}\nDEF S Sphere {\n\tradius 0.123456\n}\n");
   EXPECT_EQ(out().level(), 0);
 }
@@ -57,13 +58,13 @@ TEST_F(GeometryWriterTest, SphereRadiusFollowsThePrecisionStep) {
 TEST_F(GeometryWriterTest, TransformWritesOnlyTheArraysGiven) {
   const double translation[3] = {1, 2, 3};
   const double rotation[4] = {0, 0, -1, 1.5707963};
-  writeTransform(out(), "", translation, rotation, nullptr, nullptr, nullptr);
+  writeTransform(to(), "", translation, rotation, nullptr, nullptr, nullptr);
   EXPECT_EQ(written(), "Transform {\n\ttranslation 1 2 3\n\trotation 0 0 -1  1.5708\n}\n");
 }
 
 TEST_F(GeometryWriterTest, CylinderWritesPartsOnlyWhenGiven) {
-  writeCylinder(out(), "", "", 0.1, 2);
-  writeCylinder(out(), "C", "SIDES", 0.1, 2);
+  writeCylinder(to(), "", "", 0.1, 2);
+  writeCylinder(to(), "C", "SIDES", 0.1, 2);
   EXPECT_EQ(written(),
             "Cylinder {\n\tradius 0.1\n\theight 2\n}\n"
             "DEF C Cylinder {\n\tparts SIDES\n\tradius 0.1\n\theight 2\n}\n");
@@ -73,7 +74,7 @@ TEST_F(GeometryWriterTest, NestedInASeparatorAtTheCurrentIndentation) {
   out().setLevel(1);
   {
     SeparatorBlock block(out(), "B");
-    writeTranslation(out(), -1e-9, 0.5, 2);
+    writeTranslation(to(), -1e-9, 0.5, 2);
   }
   EXPECT_EQ(written(), "\tDEF B Separator {\n\t\tTranslation {\n\t\t\ttranslation -0 0.5 2\n\t\t}\n\t}\n");
   EXPECT_EQ(out().level(), 1);
@@ -83,10 +84,10 @@ TEST_F(GeometryWriterTest, OnePointAndOneFace) {
   WallMesh::PointList points(4);
   points[0].x = 1.5;
   WallMesh::FaceList faces{WallFace{{&points[0], &points[1], &points[2], &points[3]}}};
-  writeCoordinate3(out(), "", points);
+  writeCoordinate3(to(), "", points);
   WallMesh::PointList single(1);
-  writeCoordinate3(out(), "", single);
-  writeIndexedFaceSet(out(), "W", faces);
+  writeCoordinate3(to(), "", single);
+  writeIndexedFaceSet(to(), "W", faces);
   EXPECT_EQ(written(),
             "Coordinate3 {\n\tpoint [1.5 0 0,\n\t\t0 0 0,\n\t\t0 0 0,\n\t\t0 0 0 ]\n}\n"
             "Coordinate3 {\n\tpoint [0 0 0 ]\n}\n"
@@ -99,10 +100,10 @@ TEST_F(GeometryWriterTest, EmptyListsAndSeparatorsBetweenFaces) {
   for (int i = 0; i < 5; ++i) points[i].outputIndex = i;
   WallMesh::FaceList faces{WallFace{{&points[0], &points[1], &points[2], &points[3]}},
                            WallFace{{&points[1], &points[4], &points[3], &points[2]}}};
-  writeIndexedFaceSet(out(), "", faces);
+  writeIndexedFaceSet(to(), "", faces);
   WallMesh::PointList none;
-  writeCoordinate3(out(), "", none);
-  writeIndexedFaceSet(out(), "", WallMesh::FaceList{});
+  writeCoordinate3(to(), "", none);
+  writeIndexedFaceSet(to(), "", WallMesh::FaceList{});
   EXPECT_EQ(written(),
             "IndexedFaceSet {\n\tcoordIndex [3, 2, 1, 0, -1 ,\n\t\t2, 3, 4, 1, -1  ]\n"
             "\tmaterialIndex -1\n\tnormalIndex -1\n\ttextureCoordIndex -1\n}\n"
@@ -111,7 +112,7 @@ TEST_F(GeometryWriterTest, EmptyListsAndSeparatorsBetweenFaces) {
 }
 
 TEST_F(GeometryWriterTest, NumbersThatAreNotFiniteAreReportedAndWrittenAsZero) {
-  writeTranslation(out(), INFINITY, std::nan(""), 1e308);
+  writeTranslation(to(), INFINITY, std::nan(""), 1e308);
   EXPECT_EQ(view.errorCount(), 2);
   EXPECT_EQ(view.transcript(), "error: Number is not finite\nerror: Number is not finite\n");
   EXPECT_EQ(written(), "Translation {\n\ttranslation 0 0 1e+308\n}\n");

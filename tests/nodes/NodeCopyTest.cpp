@@ -43,13 +43,13 @@ class NodeCopyTest : public ::testing::Test {
     theRun.defNames = &input_->get()->defNames();
     QvNode* root = nullptr;
     EXPECT_TRUE(readScene(input_->get(), root));
-    root_ = std::make_unique<QvNodeRef>(root);
+    root_ = std::make_unique<NodeRef>(root);
     return root;
   }
 
   // A fresh group that receives copies.
   QvGroupNode* target() {
-    target_ = std::make_unique<QvNodeRef>(new QvGroup());
+    target_ = std::make_unique<NodeRef>(new QvGroup());
     return static_cast<QvGroupNode*>(target_->get());
   }
 
@@ -69,8 +69,8 @@ class NodeCopyTest : public ::testing::Test {
 
   RecordingView view_;
   std::unique_ptr<TextInput> input_;
-  std::unique_ptr<QvNodeRef> root_;
-  std::unique_ptr<QvNodeRef> target_;
+  std::unique_ptr<NodeRef> root_;
+  std::unique_ptr<NodeRef> target_;
 };
 
 TEST_F(NodeCopyTest, ACopyKeepsItsEnumerationsAndBitMasks) {

@@ -46,7 +46,7 @@ TEST_P(ExampleTest, TranslatesCleanlyAndLoads) {
 TEST(Examples, AreThere) { EXPECT_GE(discoverExamples().size(), 5u); }
 
 INSTANTIATE_TEST_SUITE_P(Examples, ExampleTest, ::testing::ValuesIn(discoverExamples()),
-                         [](const ::testing::TestParamInfo<std::string>& info) { return testIdFromFileName(info.param); });
+                         [](const ::testing::TestParamInfo<std::string>& tested) { return testIdFromFileName(tested.param); });
 
 }  // namespace
 }  // namespace lumeric

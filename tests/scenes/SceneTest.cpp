@@ -88,7 +88,7 @@ TEST_P(SceneTest, MatchesItsExpectation) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Scenes, SceneTest, ::testing::ValuesIn(discoverScenes()),
-                         [](const ::testing::TestParamInfo<std::string>& info) { return testIdFromFileName(info.param); });
+                         [](const ::testing::TestParamInfo<std::string>& tested) { return testIdFromFileName(tested.param); });
 
 }  // namespace
 }  // namespace lumeric

@@ -9,7 +9,7 @@ if(NOT Coin_FOUND)
 endif()
 
 add_executable(vrml1check ${CMAKE_CURRENT_LIST_DIR}/vrml1check.cpp ${CMAKE_CURRENT_LIST_DIR}/SceneFigures.cpp)
-target_link_libraries(vrml1check PRIVATE Coin::Coin)
+target_link_libraries(vrml1check PRIVATE Coin::Coin lumeric_warnings)
 
 # Tests check written scenes with it through IndependentReader.h.
 if(TARGET lumeric_tests)

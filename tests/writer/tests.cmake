@@ -1,3 +1,4 @@
 set(LUMERIC_WRITER_TESTS
+  writer/RoundingTest.cpp
   writer/SceneWriterTest.cpp
 )

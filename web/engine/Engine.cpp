@@ -12,6 +12,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/MessageFormat.h"
+#include "core/LastingState.h"
 #include "core/RunState.h"
 #include "driver/ExportRun.h"
 #include "driver/SceneParameters.h"

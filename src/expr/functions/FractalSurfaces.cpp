@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "core/RunState.h"
+#include "core/LastingState.h"
 #include "expr/TermConversions.h"
 #include "expr/WorkBudget.h"
 #include "expr/functions/FunctionMessages.h"

@@ -5,7 +5,7 @@
 
 namespace lumeric {
 
-NumberValue numberOf(QvField* field) {
+NumberValue declaredNumberOf(QvField* field) {
   NumberValue result;
   if (field == nullptr) return result;
   Term* value = field->GetLumericValue(-1, -1, nullptr);

@@ -17,7 +17,7 @@ struct NumberValue {
 // The value of `field` taken as a whole (GetLumericValue(-1, -1)): a number
 // only when it evaluates to a scalar; vectors, matrices and strings are
 // kNotNumber, a value that does not evaluate kNoValue, a null field kAbsent.
-NumberValue numberOf(QvField* field);
+NumberValue declaredNumberOf(QvField* field);
 
 }  // namespace lumeric
 

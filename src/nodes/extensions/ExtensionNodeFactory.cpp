@@ -8,9 +8,6 @@
 #include "nodes/extensions/QvPrintStatement.h"
 #include "nodes/extensions/QvSelect.h"
 #include "nodes/extensions/QvUseStatement.h"
-#include "nodes/generators/QvBall.h"
-#include "nodes/generators/QvConnect.h"
-#include "nodes/generators/QvWall.h"
 #include "scene/NodeClassTable.h"
 
 namespace lumeric {
@@ -32,16 +29,14 @@ const NodeClassEntry kExtensionNodes[] = {
     classEntry<QvParameters>(),
     classEntry<QvLoop>(),
     classEntry<QvSelect>(),
-    classEntry<QvBall>(),
-    classEntry<QvConnect>(),
-    classEntry<QvWall>(),
 };
 
 }  // namespace
 
 QvNode* createExtensionNode(const char* className) {
   static const NodeClassIndex index(kExtensionNodes);
-  return index.create(className);
+  if (QvNode* node = index.create(className)) return node;
+  return createGeneratorNode(className);
 }
 
 QvNode* createStatement(const char* keyword) {

@@ -13,7 +13,7 @@ class QvAssignmentStatement : public QvStatementNode {
   // The captured text, keyword included, is shorter than this.
   static constexpr int kMaxText = 512;
 
-  void evaluate(QvGroupNode* parent, bool copy) override;
+  void evaluate(QvGroupNode* parentGroup, bool copy) override;
   void write(SceneWriter& out) override;
   bool readInstance(QvSceneInput* in) override;
 

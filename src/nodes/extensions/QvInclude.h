@@ -21,7 +21,7 @@ class QvInclude : public QvGroupNode {
   const char* getClassName() const override { return kClassName; }
   // Passes the pass on to the included root with this statement's own
   // arguments, so copies made from it go to the group holding the INCLUDE.
-  void evaluate(QvGroupNode* parent, bool copy) override;
+  void evaluate(QvGroupNode* parentGroup, bool copy) override;
   // The included root only, with no line of its own.
   void write(SceneWriter& out) override;
   bool readInstance(QvSceneInput* in) override;

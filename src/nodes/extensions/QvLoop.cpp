@@ -13,24 +13,18 @@
 
 namespace lumeric {
 
-namespace {
-
-bool named(QvAtom atom, const char* text) { return std::strcmp(atom.text(), text) == 0; }
-
-}  // namespace
-
 void QvLoop::evaluateBoundFields(NumberValue (&values)[3], QvField*& position) {
   // Evaluated in declaration order, the first field of each name counting,
   // so that the fields' own messages come in the order of the file.
   static const char* const kNames[3] = {"start", "end", "step"};
   bool seen[3] = {false, false, false};
   for (int i = 0; i < declaredFields.getNumFields(); ++i) {
-    QvAtom name = declaredFields.getFieldName(i);
-    if (named(name, "position") && position == nullptr) position = declaredFields.getField(this, i);
+    QvAtom fieldName = declaredFields.getFieldName(i);
+    if (fieldName.named("position") && position == nullptr) position = declaredFields.getField(this, i);
     for (int k = 0; k < 3; ++k) {
-      if (!named(name, kNames[k]) || seen[k]) continue;
+      if (!fieldName.named(kNames[k]) || seen[k]) continue;
       seen[k] = true;
-      values[k] = numberOf(declaredFields.getField(this, i));
+      values[k] = declaredNumberOf(declaredFields.getField(this, i));
     }
   }
 }

@@ -23,7 +23,7 @@ class QvLoop : public QvDeclaredFieldsNode {
   const char* getClassName() const override { return kClassName; }
   // Makes the repetitions; `copy` does not change what is made, only where
   // it goes (see the .cpp).  Messages go to the LOOP's file and line.
-  void evaluate(QvGroupNode* parent, bool copy) override;
+  void evaluate(QvGroupNode* parentGroup, bool copy) override;
   // The children from templateChildCount on.
   void write(SceneWriter& out) override;
   // The body of a group with a fields specification.

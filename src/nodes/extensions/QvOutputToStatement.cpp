@@ -12,29 +12,29 @@ namespace lumeric {
 
 bool QvOutputToStatement::readInstance(QvSceneInput* in) {
   if (!refuseFieldSpecification(in)) return false;
-  std::string name = readWord(in);
-  if (name.empty() || theRun.outputFile != nullptr || !theRun.sceneMayChooseOutput) return true;
+  std::string outputName = readWord(in);
+  if (outputName.empty() || theRun.outputFile != nullptr || !theRun.sceneMayChooseOutput) return true;
   // The name must fit the buffer the host receives it in; a longer one
   // would come back cut, naming a file that was never written.
-  if (name.size() >= static_cast<size_t>(kOutputNameSize)) {
+  if (outputName.size() >= static_cast<size_t>(kOutputNameSize)) {
     readError(in, "Output file name too long - at most %d characters", kOutputNameSize - 1);
     return true;
   }
-  if (const char* refusal = confinementRefusal(name.c_str(), true)) {
-    readError(in, "Cannot OUTPUT_TO file %s - %s", name.c_str(), refusal);
+  if (const char* refusal = confinementRefusal(outputName.c_str(), true)) {
+    readError(in, "Cannot OUTPUT_TO file %s - %s", outputName.c_str(), refusal);
     return true;
   }
   // The output replaces its file only at the end of the run, when the
   // reading is over; still, a scene never replaces a file it is made of.
-  if (isFileBeingRead(name.c_str())) {
-    readError(in, "Cannot OUTPUT_TO file %s - File is being read", name.c_str());
+  if (isFileBeingRead(outputName.c_str())) {
+    readError(in, "Cannot OUTPUT_TO file %s - File is being read", outputName.c_str());
     return true;
   }
   int errorNumber = 0;
-  FILE* file = theRun.pendingOutput.open(name.c_str(), errorNumber);
+  FILE* file = theRun.pendingOutput.open(outputName.c_str(), errorNumber);
   if (file == nullptr) return true;
   theRun.outputFile = file;
-  std::memcpy(theRun.outputFileName, name.c_str(), name.size() + 1);
+  std::memcpy(theRun.outputFileName, outputName.c_str(), outputName.size() + 1);
   return true;
 }
 

@@ -12,7 +12,7 @@ void QvParameters::evaluate(QvGroupNode* parentGroup, bool copy) {
   if (!copy) return evaluateChildren(this, false);
   if (!admitCopy(this)) return;
   QvGroup* group = new QvGroup();
-  QvNodeRef keep(group);
+  NodeRef keep(group);
   // The group takes the name and line; this node's table owns its fields,
   // so nothing else is copied.
   initCopy(group);

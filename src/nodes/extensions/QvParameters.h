@@ -20,7 +20,7 @@ class QvParameters : public QvDeclaredFieldsNode {
   // node is) added to `parent`, holding copies of the children; the
   // declared fields are not copied, the children's copies already hold
   // evaluated values.
-  void evaluate(QvGroupNode* parent, bool copy) override;
+  void evaluate(QvGroupNode* parentGroup, bool copy) override;
   // The children only, at this node's indentation.
   void write(SceneWriter& out) override;
   // The body of a group with a fields specification.

@@ -1,6 +1,6 @@
 #include "nodes/extensions/QvPrecisionStatement.h"
 
-#include "core/RunState.h"
+#include "core/LastingState.h"
 #include "expr/Evaluation.h"
 #include "reader/QvSceneInput.h"
 

@@ -12,7 +12,7 @@ class QvPrecisionStatement : public QvStatementNode {
  public:
   static constexpr const char* kClassName = "PRECISION";
   const char* getClassName() const override { return kClassName; }
-  void evaluate(QvGroupNode* parent, bool copy) override;
+  void evaluate(QvGroupNode* parentGroup, bool copy) override;
   void bindParents() override;
   void write(SceneWriter& out) override;
   bool readInstance(QvSceneInput* in) override;

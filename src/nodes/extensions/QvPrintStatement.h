@@ -11,7 +11,7 @@ class QvPrintStatement : public QvStatementNode {
  public:
   static constexpr const char* kClassName = "PRINT";
   const char* getClassName() const override { return kClassName; }
-  void evaluate(QvGroupNode* parent, bool copy) override;
+  void evaluate(QvGroupNode* parentGroup, bool copy) override;
   void write(SceneWriter& out) override;
   bool readInstance(QvSceneInput* in) override;
 

@@ -11,7 +11,7 @@
 namespace lumeric {
 
 bool QvSelect::readChoice(double& value) {
-  NumberValue choice = numberOf(findDeclaredField("whichChild"));
+  NumberValue choice = declaredNumberOf(findDeclaredField("whichChild"));
   // A value that is not a finite number cannot be reduced to a child.
   if (choice.state != NumberState::kNumber || !std::isfinite(choice.value)) {
     return reportAtNode(this, "\"whichChild\" field not defined");

@@ -18,7 +18,7 @@ class QvSelect : public QvDeclaredFieldsNode {
   // In place: every child, chosen or not, so statements in all of them
   // run.  Copied: copies of the chosen children go straight into
   // `parent`; the SELECT makes no copy of itself.
-  void evaluate(QvGroupNode* parent, bool copy) override;
+  void evaluate(QvGroupNode* parentGroup, bool copy) override;
   // The chosen children, with the choice read again now.
   void write(SceneWriter& out) override;
   // The body of a group with a fields specification.

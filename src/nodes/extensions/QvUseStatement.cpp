@@ -37,9 +37,9 @@ void QvUseStatement::evaluate(QvGroupNode* parentGroup, bool copy) {
 void QvUseStatement::write(SceneWriter& out) {
   out.line("%s", kClassName);
   parent = theNodeStack.top();
-  StringTerm* name = asString(evaluateTerm(&expression_));
-  if (name != nullptr && name->text != nullptr) {
-    out.format(" %s\n", name->text);
+  StringTerm* usedName = asString(evaluateTerm(&expression_));
+  if (usedName != nullptr && usedName->text != nullptr) {
+    out.format(" %s\n", usedName->text);
   } else {
     reportAtExpression(&expression_, "Cannot evaluate USE expression");
     out.format(" %s\n", "ERROR: NO NAME DEFINED");

@@ -14,7 +14,7 @@ class QvUseStatement : public QvStatementNode {
 
   static constexpr const char* kClassName = "USE";
   const char* getClassName() const override { return kClassName; }
-  void evaluate(QvGroupNode* parent, bool copy) override;
+  void evaluate(QvGroupNode* parentGroup, bool copy) override;
   void write(SceneWriter& out) override;
   bool readInstance(QvSceneInput* in) override;
   // The text read: "use " and the name.

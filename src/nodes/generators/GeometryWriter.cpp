@@ -1,6 +1,5 @@
 #include "nodes/generators/GeometryWriter.h"
 
-#include "scene/NodeVisit.h"
 #include "scene/SceneMessages.h"
 
 namespace lumeric {
@@ -9,48 +8,50 @@ namespace {
 
 // The rounded number, preceded by `before`; one that is not finite is
 // reported at the generator being written and written as 0.
-void writeNumber(SceneWriter& out, const char* before, double v) {
-  out.text(before).rounded(finiteAt(v, theNodeStack.top()));
+void writeNumber(const GeometryOutput& to, const char* before, double v) {
+  to.out.text(before).rounded(finiteAt(v, to.generator));
 }
 
 // "name a b c" or, with four numbers, "name a b c  angle"; then a newline.
-void writeVectorLine(SceneWriter& out, const char* name, const double* v, int count) {
-  out.indentation().text(name);
-  for (int k = 0; k < count; ++k) writeNumber(out, k == 3 ? "  " : " ", v[k]);
-  out.character('\n');
+void writeVectorLine(const GeometryOutput& to, const char* name, const double* v, int count) {
+  to.out.indentation().text(name);
+  for (int k = 0; k < count; ++k) writeNumber(to, k == 3 ? "  " : " ", v[k]);
+  to.out.character('\n');
 }
 
 }  // namespace
 
-void writeTranslation(SceneWriter& out, double x, double y, double z) {
-  GeneratedNodeFrame node(out, nullptr, "Translation");
+void writeTranslation(const GeometryOutput& to, double x, double y, double z) {
+  GeneratedNodeFrame node(to.out, nullptr, "Translation");
   const double v[3] = {x, y, z};
-  writeVectorLine(out, "translation", v, 3);
+  writeVectorLine(to, "translation", v, 3);
 }
 
-void writeSphere(SceneWriter& out, const char* name, double radius) {
-  GeneratedNodeFrame node(out, name, "Sphere");
-  writeVectorLine(out, "radius", &radius, 1);
+void writeSphere(const GeometryOutput& to, const char* name, double radius) {
+  GeneratedNodeFrame node(to.out, name, "Sphere");
+  writeVectorLine(to, "radius", &radius, 1);
 }
 
-void writeTransform(SceneWriter& out, const char* name, const double* translation, const double* rotation,
+void writeTransform(const GeometryOutput& to, const char* name, const double* translation, const double* rotation,
                     const double* scaleFactor, const double* scaleOrientation, const double* center) {
-  GeneratedNodeFrame node(out, name, "Transform");
-  if (translation != nullptr) writeVectorLine(out, "translation", translation, 3);
-  if (rotation != nullptr) writeVectorLine(out, "rotation", rotation, 4);
-  if (scaleFactor != nullptr) writeVectorLine(out, "scaleFactor", scaleFactor, 3);
-  if (scaleOrientation != nullptr) writeVectorLine(out, "scaleOrientation", scaleOrientation, 4);
-  if (center != nullptr) writeVectorLine(out, "center", center, 3);
+  GeneratedNodeFrame node(to.out, name, "Transform");
+  if (translation != nullptr) writeVectorLine(to, "translation", translation, 3);
+  if (rotation != nullptr) writeVectorLine(to, "rotation", rotation, 4);
+  if (scaleFactor != nullptr) writeVectorLine(to, "scaleFactor", scaleFactor, 3);
+  if (scaleOrientation != nullptr) writeVectorLine(to, "scaleOrientation", scaleOrientation, 4);
+  if (center != nullptr) writeVectorLine(to, "center", center, 3);
 }
 
-void writeCylinder(SceneWriter& out, const char* name, const char* parts, double radius, double height) {
+void writeCylinder(const GeometryOutput& to, const char* name, const char* parts, double radius, double height) {
+  SceneWriter& out = to.out;
   GeneratedNodeFrame node(out, name, "Cylinder");
   if (parts != nullptr && parts[0] != '\0') out.line("parts %s\n", parts);
-  writeVectorLine(out, "radius", &radius, 1);
-  writeVectorLine(out, "height", &height, 1);
+  writeVectorLine(to, "radius", &radius, 1);
+  writeVectorLine(to, "height", &height, 1);
 }
 
-void writeCoordinate3(SceneWriter& out, const char* name, WallMesh::PointList& points) {
+void writeCoordinate3(const GeometryOutput& to, const char* name, WallMesh::PointList& points) {
+  SceneWriter& out = to.out;
   GeneratedNodeFrame node(out, name, "Coordinate3");
   if (points.empty()) {
     out.line("point []\n");
@@ -64,14 +65,15 @@ void writeCoordinate3(SceneWriter& out, const char* name, WallMesh::PointList& p
   for (WallPoint& point : points) {
     if (index > 0) out.indentation();
     point.outputIndex = index++;
-    writeNumber(out, "", point.x);
-    writeNumber(out, " ", point.y);
-    writeNumber(out, " ", point.z);
+    writeNumber(to, "", point.x);
+    writeNumber(to, " ", point.y);
+    writeNumber(to, " ", point.z);
     out.text(static_cast<size_t>(index) < points.size() ? ",\n" : " ]\n");
   }
 }
 
-void writeIndexedFaceSet(SceneWriter& out, const char* name, const WallMesh::FaceList& faces) {
+void writeIndexedFaceSet(const GeometryOutput& to, const char* name, const WallMesh::FaceList& faces) {
+  SceneWriter& out = to.out;
   GeneratedNodeFrame node(out, name, "IndexedFaceSet");
   out.line("coordIndex [");
   if (faces.empty()) {

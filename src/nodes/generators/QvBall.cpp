@@ -20,10 +20,11 @@ void QvBall::write(SceneWriter& out) {
   if (radius == nullptr || center == nullptr) return;
   SeparatorBlock block(out, getName());
   writeChildren(out);
+  const GeometryOutput to{out, this};
   if (VectorTerm* c = asVectorOf(center->GetLumericValue(-1, -1, nullptr), 3)) {
-    writeTranslation(out, c->elements[0], c->elements[1], c->elements[2]);
+    writeTranslation(to, c->elements[0], c->elements[1], c->elements[2]);
   }
-  if (ScalarTerm* r = asScalar(radius->GetLumericValue(-1, -1, nullptr))) writeSphere(out, "", r->value);
+  if (ScalarTerm* r = asScalar(radius->GetLumericValue(-1, -1, nullptr))) writeSphere(to, "", r->value);
 }
 
 }  // namespace lumeric

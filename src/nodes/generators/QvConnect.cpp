@@ -25,12 +25,12 @@ const double* pointOf(QvField* center) {
 }  // namespace
 
 QvField* QvConnect::endCenter(QvField* reference, const char* invalidMessage) {
-  StringTerm* name = asString(reference->GetLumericValue(-1, -1, nullptr));
-  if (name == nullptr || name->text == nullptr) {
+  StringTerm* nodeName = asString(reference->GetLumericValue(-1, -1, nullptr));
+  if (nodeName == nullptr || nodeName->text == nullptr) {
     return reportAtNode(this, "%s", invalidMessage);
   }
-  QvField* center = findNodeField(name->text, "center");
-  if (center == nullptr) reportAtNode(this, "Field %s:%s not found", name->text, "center");
+  QvField* center = findNodeField(nodeName->text, "center");
+  if (center == nullptr) reportAtNode(this, "Field %s:%s not found", nodeName->text, "center");
   return center;
 }
 
@@ -44,13 +44,13 @@ void QvConnect::write(SceneWriter& out) {
   QvField* second = nullptr;
   QvField* radius = nullptr;
   for (int i = 0; i < declaredFields.getNumFields(); ++i) {
-    const char* name = declaredFields.getFieldName(i).text();
+    const char* fieldName = declaredFields.getFieldName(i).text();
     QvField* field = declaredFields.getField(this, i);
-    if (std::strcmp(name, "first") == 0) {
+    if (std::strcmp(fieldName, "first") == 0) {
       first = endCenter(field, "Connect reference to expession in \"frist\" field is invalid");
-    } else if (std::strcmp(name, "second") == 0) {
+    } else if (std::strcmp(fieldName, "second") == 0) {
       second = endCenter(field, "Connect reference to expession in \"second\" field is invalid");
-    } else if (std::strcmp(name, "radius") == 0) {
+    } else if (std::strcmp(fieldName, "radius") == 0) {
       radius = field;
     }
   }
@@ -89,8 +89,9 @@ void QvConnect::writeCylinderBetween(SceneWriter& out, const double a[3], const 
   orientationBetween(bottom, top, a, b, rotation, nullptr);
   SeparatorBlock block(out, getName());
   writeChildren(out);
-  writeTransform(out, "", middle, rotation, nullptr, nullptr, nullptr);
-  writeCylinder(out, "", "", radius, d);
+  const GeometryOutput to{out, this};
+  writeTransform(to, "", middle, rotation, nullptr, nullptr, nullptr);
+  writeCylinder(to, "", "", radius, d);
 }
 
 }  // namespace lumeric

@@ -46,13 +46,13 @@ void QvWall::bindParents() {
   elevationField = heightField = widthField = dataField = placementField = nullptr;
   // The first field of each name counts.
   for (int i = 0; i < declaredFields.getNumFields(); ++i) {
-    const char* name = declaredFields.getFieldName(i).text();
+    const char* fieldName = declaredFields.getFieldName(i).text();
     QvField* field = declaredFields.getField(this, i);
-    QvField** slot = std::strcmp(name, "width") == 0       ? &widthField
-                     : std::strcmp(name, "data") == 0      ? &dataField
-                     : std::strcmp(name, "placement") == 0 ? &placementField
-                     : std::strcmp(name, "height") == 0    ? &heightField
-                     : std::strcmp(name, "elevation") == 0 ? &elevationField
+    QvField** slot = std::strcmp(fieldName, "width") == 0       ? &widthField
+                     : std::strcmp(fieldName, "data") == 0      ? &dataField
+                     : std::strcmp(fieldName, "placement") == 0 ? &placementField
+                     : std::strcmp(fieldName, "height") == 0    ? &heightField
+                     : std::strcmp(fieldName, "elevation") == 0 ? &elevationField
                                                            : nullptr;
     if (slot != nullptr && *slot == nullptr) *slot = field;
   }
@@ -73,9 +73,10 @@ void QvWall::write(SceneWriter& out) {
   NodeVisit visit(this);
   if (mesh == nullptr) return;
   mesh->thicken(placement, width);
-  const char* name = getName();
-  writeCoordinate3(out, name, mesh->points());
-  writeIndexedFaceSet(out, name, mesh->faces());
+  const char* defName = getName();
+  const GeometryOutput to{out, this};
+  writeCoordinate3(to, defName, mesh->points());
+  writeIndexedFaceSet(to, defName, mesh->faces());
   writeChildren(out);
 }
 

@@ -26,7 +26,7 @@ class QvWall : public QvGeneratorNode<QvWall> {
   const char* getClassName() const override { return kClassName; }
   // In place the children are not visited; a copy is made as for every
   // generator.
-  void evaluate(QvGroupNode* parent, bool copy) override;
+  void evaluate(QvGroupNode* parentGroup, bool copy) override;
   // Builds the mesh from the field values that hold now (after the
   // statements ran), replacing an earlier one, then binds the children.
   // Missing or unusable fields leave no mesh.

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "core/RunState.h"
+#include "core/LastingState.h"
 
 namespace lumeric {
 

@@ -60,7 +60,7 @@ INSTANTIATE_TEST_SUITE_P(
                       Choice{"FormatOption", {"--format", "stl", "-o", "out.bin"}, "out.bin", "lumeric "},
                       Choice{"FormatOverridesExtension", {"--format", "wrl", "-o", "out.glb"}, "out.glb",
                              "#VRML V1.0 ascii\n"}),
-    [](const ::testing::TestParamInfo<Choice>& info) { return info.param.name; });
+    [](const ::testing::TestParamInfo<Choice>& tested) { return tested.param.name; });
 
 TEST(CliExportTest, VrmlOutputIsUnchangedByTheExporter) {
   ScratchDir dir;

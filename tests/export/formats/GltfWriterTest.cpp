@@ -149,7 +149,7 @@ TEST_P(GltfBothTest, EmptySceneLoads) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Formats, GltfBothTest, ::testing::Values(true, false),
-                         [](const ::testing::TestParamInfo<bool>& info) { return info.param ? "Glb" : "Gltf"; });
+                         [](const ::testing::TestParamInfo<bool>& tested) { return tested.param ? "Glb" : "Gltf"; });
 
 TEST(GltfWriterTest, MatrixWithShearIsBakedIntoItsOwnMesh) {
   Matrix4 shear = identityMatrix();
@@ -304,7 +304,7 @@ INSTANTIATE_TEST_SUITE_P(
                       TextureCase{"RotatedScaledMoved", {{2 * kC, 2 * kS, 0, -3 * kS, 3 * kC, 0, 0.25f, -1, 1}}, true},
                       TextureCase{"Mirrored", {{-1, 0, 0, 0, 1, 0, 0, 0, 1}}, true},
                       TextureCase{"Sheared", {{1, 0, 0, 0.5f, 1, 0, 0, 0, 1}}, false}),
-    [](const ::testing::TestParamInfo<TextureCase>& info) { return info.param.name; });
+    [](const ::testing::TestParamInfo<TextureCase>& tested) { return tested.param.name; });
 
 TEST(GltfWriterTest, CamerasAndLightsArePlacedWithoutScale) {
   ExportScene scene;
@@ -491,7 +491,7 @@ TEST_P(GltfValidatorTest, FindsNoError) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Formats, GltfValidatorTest, ::testing::Values(true, false),
-                         [](const ::testing::TestParamInfo<bool>& info) { return info.param ? "Glb" : "Gltf"; });
+                         [](const ::testing::TestParamInfo<bool>& tested) { return tested.param ? "Glb" : "Gltf"; });
 
 }  // namespace
 }  // namespace lumeric

@@ -92,9 +92,9 @@ TEST_P(OddScenesTest, WriterKeepsWhatItCanAndCountsTheRest) {
   }
 }
 
-std::string formatName(const ::testing::TestParamInfo<ExportFormat>& info) {
+std::string formatName(const ::testing::TestParamInfo<ExportFormat>& tested) {
   static const char* const kNames[] = {"Wrl", "Glb", "Gltf", "Stl", "Obj", "X3d"};
-  return kNames[static_cast<int>(info.param)];
+  return kNames[static_cast<int>(tested.param)];
 }
 
 INSTANTIATE_TEST_SUITE_P(Formats, OddScenesTest,

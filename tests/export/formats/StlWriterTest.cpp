@@ -67,7 +67,7 @@ INSTANTIATE_TEST_SUITE_P(Placements, StlPlacementTest,
                                            Placement{"MirroredAndRotated",
                                                      multiply(rotationZ(0.7), scaling(1, -2, 1)), 16},
                                            Placement{"DoubleMirror", scaling(-1, -1, 1), 8}),
-                         [](const ::testing::TestParamInfo<Placement>& info) { return info.param.name; });
+                         [](const ::testing::TestParamInfo<Placement>& tested) { return tested.param.name; });
 
 TEST(StlWriterTest, HeaderNamesLumericAndIsNotAscii) {
   RecordingView view;

@@ -17,8 +17,8 @@ add_executable(lumeric_export_format_tests
 )
 target_include_directories(lumeric_export_format_tests PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 target_include_directories(lumeric_export_format_tests SYSTEM PRIVATE ${LUMERIC_TINYGLTF_INCLUDE_DIR})
-target_link_libraries(lumeric_export_format_tests PRIVATE
-  lumeric_export_static lumeric_core nlohmann_json::nlohmann_json GTest::gtest GTest::gtest_main)
+target_link_libraries(lumeric_export_format_tests PRIVATE lumeric_warnings
+  lumeric_export_static lumeric_static nlohmann_json::nlohmann_json GTest::gtest GTest::gtest_main)
 add_dependencies(lumeric_export_format_tests lumeric_cli)
 target_compile_definitions(lumeric_export_format_tests PRIVATE
   LUMERIC_CLI_PATH="$<TARGET_FILE:lumeric_cli>"
@@ -31,7 +31,7 @@ gtest_discover_tests(lumeric_export_format_tests DISCOVERY_MODE PRE_TEST
 # The exporter's shared library seen from a host program, and its exports.
 add_executable(lumeric_export_host_program export/formats/ExportHostProgram.cpp)
 target_include_directories(lumeric_export_host_program PRIVATE ${PROJECT_SOURCE_DIR}/include ${CMAKE_CURRENT_SOURCE_DIR})
-target_link_libraries(lumeric_export_host_program PRIVATE lumeric_export)
+target_link_libraries(lumeric_export_host_program PRIVATE lumeric_export lumeric_warnings)
 add_test(NAME export.host_program
   COMMAND lumeric_export_host_program ${CMAKE_CURRENT_SOURCE_DIR}/host/host_scene.vlm
   WORKING_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR})

@@ -1,8 +1,8 @@
 // The statements that may stand as a whole expression text: SET, APPEND and
 // DECLARE, each addressing a field as node:field.  Their messages never fail
 // the parse; the statement then simply does nothing.
-#ifndef LUMERIC_EXPR_ASSIGNMENTSTATEMENTS_H
-#define LUMERIC_EXPR_ASSIGNMENTSTATEMENTS_H
+#ifndef LUMERIC_EXPR_FIELDASSIGNMENTS_H
+#define LUMERIC_EXPR_FIELDASSIGNMENTS_H
 
 namespace lumeric {
 
@@ -22,4 +22,4 @@ void declareField(const char* nodeName, const char* fieldName, Term* value, Fiel
 
 }  // namespace lumeric
 
-#endif  // LUMERIC_EXPR_ASSIGNMENTSTATEMENTS_H
+#endif  // LUMERIC_EXPR_FIELDASSIGNMENTS_H

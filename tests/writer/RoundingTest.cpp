@@ -5,7 +5,8 @@
 #include <cfloat>
 #include <cmath>
 
-#include "core/RunState.h"
+#include "core/LastingState.h"
+#include "writer/SceneWriter.h"
 
 namespace lumeric {
 namespace {

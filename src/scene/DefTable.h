@@ -6,8 +6,8 @@
 // is destroyed, so no entry ever points at a freed node: a node whose
 // reading failed is dropped by its reader, yet later statements and
 // references may still name it.
-#ifndef LUMERIC_SCENE_QVDEFTABLE_H
-#define LUMERIC_SCENE_QVDEFTABLE_H
+#ifndef LUMERIC_SCENE_DEFTABLE_H
+#define LUMERIC_SCENE_DEFTABLE_H
 
 #include <vector>
 
@@ -18,13 +18,13 @@ namespace lumeric {
 
 class QvNode;
 
-class QvDefTable {
+class DefTable {
  public:
-  QvDefTable() = default;
+  DefTable() = default;
   // Drops the references the table holds; nodes nobody else holds die.
-  ~QvDefTable();
-  QvDefTable(const QvDefTable&) = delete;
-  QvDefTable& operator=(const QvDefTable&) = delete;
+  ~DefTable();
+  DefTable(const DefTable&) = delete;
+  DefTable& operator=(const DefTable&) = delete;
 
   // Enters `node` under `name` (replacing an earlier node), takes a
   // reference on it and names the node.  Tells whether the table already
@@ -42,4 +42,4 @@ class QvDefTable {
 
 }  // namespace lumeric
 
-#endif  // LUMERIC_SCENE_QVDEFTABLE_H
+#endif  // LUMERIC_SCENE_DEFTABLE_H

@@ -1,4 +1,4 @@
-#include "scene/QvNodeClass.h"
+#include "scene/NodeClass.h"
 
 #include <vector>
 
@@ -8,14 +8,14 @@ namespace lumeric {
 
 namespace {
 
-std::vector<QvNodeClass*>& classesWithTables() {
-  static std::vector<QvNodeClass*> classes;
+std::vector<NodeClass*>& classesWithTables() {
+  static std::vector<NodeClass*> classes;
   return classes;
 }
 
 }  // namespace
 
-bool QvNodeClass::beginInstance() {
+bool NodeClass::beginInstance() {
   if (table_ != nullptr) return false;
   table_ = new QvFieldTable(false);
   if (!registered_) {
@@ -25,8 +25,8 @@ bool QvNodeClass::beginInstance() {
   return true;
 }
 
-void QvNodeClass::destroyAllTables() {
-  for (QvNodeClass* nodeClass : classesWithTables()) {
+void NodeClass::destroyAllTables() {
+  for (NodeClass* nodeClass : classesWithTables()) {
     delete nodeClass->table_;
     nodeClass->table_ = nullptr;
   }

@@ -1,14 +1,14 @@
-#include "scene/QvDefTable.h"
+#include "scene/DefTable.h"
 
 #include "scene/QvNode.h"
 
 namespace lumeric {
 
-QvDefTable::~QvDefTable() {
+DefTable::~DefTable() {
   for (QvNode* node : held_) node->unref();
 }
 
-bool QvDefTable::addName(QvAtom name, QvNode* node) {
+bool DefTable::addName(QvAtom name, QvNode* node) {
   node->ref();
   held_.push_back(node);
   bool wasDefined = !table_.enter(name, node);
@@ -16,7 +16,7 @@ bool QvDefTable::addName(QvAtom name, QvNode* node) {
   return wasDefined;
 }
 
-QvNode* QvDefTable::findName(QvAtom name) const {
+QvNode* DefTable::findName(QvAtom name) const {
   return table_.find(name);
 }
 

@@ -1,6 +1,6 @@
 // The tables and lists that LOOP repetitions fill: name tables that grow
-// past their starting bucket count, and child lists that take many nodes
-// in the middle at once.
+// past their starting bucket count, and pointer lists that take many
+// entries in the middle at once (the child lists: scene/QvGroupNodeTest).
 #include <gtest/gtest.h>
 
 #include <string>
@@ -10,8 +10,6 @@
 #include "core/QvAtomPool.h"
 #include "core/AtomMap.h"
 #include "core/QvPointerList.h"
-#include "scene/QvNodeList.h"
-#include "support/TestNodes.h"
 
 namespace lumeric {
 namespace {
@@ -72,28 +70,6 @@ TEST(PointerListTest, InsertsManyAtOnceAndFindsFromBothEnds) {
   // An index past the end appends.
   list.insert(middle, 1, 99);
   EXPECT_EQ(list.get(5), &items[1]);
-}
-
-TEST(NodeListTest, InsertAllTakesOneReferenceEach) {
-  QvNode* a = new PlainTestNode;
-  QvNode* b = new PlainTestNode;
-  QvNode* c = new PlainTestNode;
-  QvNodeList target;
-  target.append(a);
-  target.append(c);
-  {
-    QvNodeList batch;
-    batch.append(b);
-    batch.append(b);
-    target.insertAll(batch, 1);
-    EXPECT_EQ(b->refCount, 4);
-  }
-  EXPECT_EQ(b->refCount, 2);
-  ASSERT_EQ(target.getLength(), 4);
-  EXPECT_EQ(target.get(0), a);
-  EXPECT_EQ(target.get(1), b);
-  EXPECT_EQ(target.get(2), b);
-  EXPECT_EQ(target.get(3), c);
 }
 
 }  // namespace

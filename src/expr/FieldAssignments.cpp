@@ -1,4 +1,4 @@
-#include "expr/AssignmentStatements.h"
+#include "expr/FieldAssignments.h"
 
 #include "core/QvContext.h"
 #include "expr/FieldReferences.h"

@@ -1,18 +1,18 @@
 // What a node class shares among its instances: its field table, built by
 // the first constructor of the class in a run and destroyed by the
 // end-of-run clean-up, so that the next run builds it again.
-#ifndef LUMERIC_SCENE_QVNODECLASS_H
-#define LUMERIC_SCENE_QVNODECLASS_H
+#ifndef LUMERIC_SCENE_NODECLASS_H
+#define LUMERIC_SCENE_NODECLASS_H
 
 namespace lumeric {
 
 class QvFieldTable;
 
-class QvNodeClass {
+class NodeClass {
  public:
-  explicit QvNodeClass(const char* name) : name_(name) {}
-  QvNodeClass(const QvNodeClass&) = delete;
-  QvNodeClass& operator=(const QvNodeClass&) = delete;
+  explicit NodeClass(const char* name) : name_(name) {}
+  NodeClass(const NodeClass&) = delete;
+  NodeClass& operator=(const NodeClass&) = delete;
 
   const char* name() const { return name_; }
   // The class table, or null before the first instance of the run.
@@ -32,4 +32,4 @@ class QvNodeClass {
 
 }  // namespace lumeric
 
-#endif  // LUMERIC_SCENE_QVNODECLASS_H
+#endif  // LUMERIC_SCENE_NODECLASS_H

@@ -1,25 +1,25 @@
 // Used by node constructors: enters each field in the class table while the
 // class's first instance of a run is built, and hands enumeration and
 // bit-mask fields their class's enumeration.
-#ifndef LUMERIC_NODES_QVFIELDREGISTRAR_H
-#define LUMERIC_NODES_QVFIELDREGISTRAR_H
+#ifndef LUMERIC_NODES_FIELDREGISTRAR_H
+#define LUMERIC_NODES_FIELDREGISTRAR_H
 
 #include <initializer_list>
 #include <utility>
 
 #include "fields/QvSFEnum.h"
 #include "scene/QvFieldTable.h"
-#include "scene/QvNodeClass.h"
+#include "scene/NodeClass.h"
 
 namespace lumeric {
 
 class QvNode;
 
-class QvFieldRegistrar {
+class FieldRegistrar {
  public:
   using EnumEntries = std::initializer_list<std::pair<const char*, int>>;
 
-  QvFieldRegistrar(QvNode* node, QvNodeClass& nodeClass)
+  FieldRegistrar(QvNode* node, NodeClass& nodeClass)
       : node_(node), firstInstance_(nodeClass.beginInstance()), table_(nodeClass.table()) {}
 
   // Registers `field` under `name` (first instance only) and gives it its
@@ -53,4 +53,4 @@ class QvFieldRegistrar {
 
 }  // namespace lumeric
 
-#endif  // LUMERIC_NODES_QVFIELDREGISTRAR_H
+#endif  // LUMERIC_NODES_FIELDREGISTRAR_H
