@@ -21,8 +21,10 @@ QvNode* createGeneratorNode(const char* className);
 // The statement of a keyword (USE, SET, APPEND, DECLARE, OUTPUT_TO,
 // INCLUDE, PRECISION, PRINT), or null.
 QvNode* createStatement(const char* keyword);
-// Appends the names of the extension classes.
+// Appends the names of the extension classes, the generators among them.
 void collectExtensionClassNames(std::vector<std::string>& names);
+// Appends the names of the generators.
+void collectGeneratorClassNames(std::vector<std::string>& names);
 // Appends the names of the standard classes, then of the extension classes.
 void collectNodeClassNames(std::vector<std::string>& names);
 

@@ -74,7 +74,7 @@ TEST_P(Hints, FollowTheMessageInEachFormat) {
 }
 
 INSTANTIATE_TEST_SUITE_P(EachKind, Hints, testing::ValuesIn(kHintCases),
-                         [](const testing::TestParamInfo<HintCase>& info) { return testIdFromFileName(info.param.kind); });
+                         [](const testing::TestParamInfo<HintCase>& test) { return testIdFromFileName(test.param.kind); });
 
 // The choice of near names, on lists given directly.
 class Listed : public NameCandidates {

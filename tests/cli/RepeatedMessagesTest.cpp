@@ -95,7 +95,7 @@ INSTANTIATE_TEST_SUITE_P(
                 "error: Line 4: Field position not found\n"
                 "error: Line 4: Cannot evaluate USE expression\n"
                 "error: File \"scene.vlm\" Line 9: Field nowhere not found\n"}),
-    [](const testing::TestParamInfo<Folding>& info) { return std::string(info.param.format); });
+    [](const testing::TestParamInfo<Folding>& test) { return std::string(test.param.format); });
 
 // Messages that differ are each printed, in order, even inside one LOOP.
 TEST(RepeatedMessages, DifferentTextsStayApart) {

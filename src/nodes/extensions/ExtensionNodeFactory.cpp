@@ -44,6 +44,9 @@ QvNode* createStatement(const char* keyword) {
   return index.create(keyword);
 }
 
-void collectExtensionClassNames(std::vector<std::string>& names) { collectClassNames(kExtensionNodes, names); }
+void collectExtensionClassNames(std::vector<std::string>& names) {
+  collectClassNames(kExtensionNodes, names);
+  collectGeneratorClassNames(names);
+}
 
 }  // namespace lumeric

@@ -21,4 +21,6 @@ QvNode* createGeneratorNode(const char* className) {
   return index.create(className);
 }
 
+void collectGeneratorClassNames(std::vector<std::string>& names) { collectClassNames(kGenerators, names); }
+
 }  // namespace lumeric
