@@ -46,30 +46,42 @@ class CollectingView : public CReportErrorView {
 const double kStartPrecision = lumeric::precisionQuantum;
 const uint32_t kStartRandomState = lumeric::randomState();
 
-// The run's budgets and the -D values a request gives.
-void takeRequest(const json& request, lumeric::RunAdditions& additions) {
-  lumeric::precisionQuantum = kStartPrecision;
-  lumeric::setRandomState(kStartRandomState);
-  lumeric::RunLimits limits;
-  limits.maxNodes = request.value("maxNodes", limits.maxNodes);
-  limits.maxEvaluations = request.value("maxEvaluations", limits.maxEvaluations);
-  limits.confine = true;
-  lumeric::theRun.limits = limits;
-  for (const json& change : request.value("overrides", json::array())) {
-    additions.overrides.push_back(
-        {change.value("node", ""), change.value("field", ""), change.value("value", "")});
-  }
-}
-
 std::string answer;
 
-const char* reply(json body, const CollectingView& view, const lumeric::RunAdditions& additions) {
-  body["messages"] = view.messages;
-  body["errors"] = view.errors;
-  if (!additions.overrideError.empty()) body["overrideError"] = additions.overrideError;
-  answer = body.dump();
-  return answer.c_str();
-}
+// One request: its JSON, and what its run reports.  Parsing it sets the
+// run's budgets and takes its -D values.
+struct Request {
+  explicit Request(const char* text) : body(json::parse(text, nullptr, false)) {
+    if (!valid()) return;
+    lumeric::precisionQuantum = kStartPrecision;
+    lumeric::setRandomState(kStartRandomState);
+    lumeric::RunLimits limits;
+    limits.maxNodes = body.value("maxNodes", limits.maxNodes);
+    limits.maxEvaluations = body.value("maxEvaluations", limits.maxEvaluations);
+    limits.confine = true;
+    lumeric::theRun.limits = limits;
+    for (const json& change : body.value("overrides", json::array())) {
+      additions.overrides.push_back({change.value("node", ""), change.value("field", ""), change.value("value", "")});
+    }
+    input = body.value("input", "");
+  }
+
+  bool valid() const { return !body.is_discarded(); }
+
+  // `reply` with the run's messages, error count and -D failure added.
+  const char* answer(json reply) const {
+    reply["messages"] = view.messages;
+    reply["errors"] = view.errors;
+    if (!additions.overrideError.empty()) reply["overrideError"] = additions.overrideError;
+    ::answer = reply.dump();
+    return ::answer.c_str();
+  }
+
+  const json body;
+  CollectingView view;
+  lumeric::RunAdditions additions;
+  std::string input;
+};
 
 }  // namespace
 
@@ -79,36 +91,27 @@ extern "C" {
 //  "maxNodes": N, "maxEvaluations": N, "overrides": [{"node","field","value"}]}
 // gives {"errors": N, "messages": [...], "overrideError"?}.
 EMSCRIPTEN_KEEPALIVE const char* lumeric_export(const char* requestText) {
-  const json request = json::parse(requestText, nullptr, false);
-  CollectingView view;
-  lumeric::RunAdditions additions;
-  if (request.is_discarded()) return reply({{"requestError", "not JSON"}}, view, additions);
-  takeRequest(request, additions);
-  const std::string input = request.value("input", "");
+  Request request(requestText);
+  if (!request.valid()) return request.answer({{"requestError", "not JSON"}});
   lumeric::ExportRequest exportRequest;
-  exportRequest.inputPath = input.c_str();
-  exportRequest.outputPath = request.value("output", "");
-  if (!lumeric::exportFormatByName(request.value("format", "glb"), exportRequest.format)) {
-    return reply({{"requestError", "unknown format"}}, view, additions);
+  exportRequest.inputPath = request.input.c_str();
+  exportRequest.outputPath = request.body.value("output", "");
+  if (!lumeric::exportFormatByName(request.body.value("format", "glb"), exportRequest.format)) {
+    return request.answer({{"requestError", "unknown format"}});
   }
-  exportRequest.additions = &additions;
-  lumeric::runExport(exportRequest, &view);
-  return reply(json::object(), view, additions);
+  exportRequest.additions = &request.additions;
+  lumeric::runExport(exportRequest, &request.view);
+  return request.answer(json::object());
 }
 
 // {"input": PATH, budgets and overrides as above} gives the --parameters
 // listing: {"parameters": [...], "errors": N, "messages": [...]}.
 EMSCRIPTEN_KEEPALIVE const char* lumeric_parameters(const char* requestText) {
-  const json request = json::parse(requestText, nullptr, false);
-  CollectingView view;
-  lumeric::RunAdditions additions;
-  if (request.is_discarded()) return reply({{"requestError", "not JSON"}}, view, additions);
-  takeRequest(request, additions);
-  const std::string input = request.value("input", "");
+  Request request(requestText);
+  if (!request.valid()) return request.answer({{"requestError", "not JSON"}});
   std::vector<lumeric::SceneParameter> parameters;
-  lumeric::listSceneParameters(input.c_str(), &view, &additions, parameters);
-  json body = json::parse(lumeric::parametersJson(parameters));
-  return reply(body, view, additions);
+  lumeric::listSceneParameters(request.input.c_str(), &request.view, &request.additions, parameters);
+  return request.answer(json::parse(lumeric::parametersJson(parameters)));
 }
 
 }  // extern "C"

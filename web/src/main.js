@@ -74,7 +74,7 @@ function showMessages(messages) {
   for (const m of messages) {
     const item = document.createElement('li');
     item.className = m.severity;
-    const inScene = !m.file || m.file === '/work/scene.vlm';
+    const inScene = !m.file || m.file === 'scene.vlm';
     const place = m.line ? `${inScene ? '' : m.file + ':'}${m.line}: ` : '';
     item.textContent = `${place}${m.severity === 'note' ? '' : m.severity + ': '}${m.text}`;
     if (m.line && inScene) {

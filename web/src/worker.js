@@ -4,7 +4,7 @@
 /* global importScripts, createLumericEngine */
 importScripts('lumeric-engine.js');
 
-const WORK = '/work';
+const WORK = '/files';  // the in-memory directory of the scene and its files
 const SCENE = WORK + '/scene.vlm';
 let engine = null;
 const ready = createLumericEngine().then((module) => {
@@ -24,8 +24,14 @@ function writeFiles(scene, files) {
   FS.writeFile(SCENE, scene);
 }
 
+// The engine's answer, its messages naming files as the author named them
+// (relative to the in-memory directory): "scene.vlm", "parts.inc".
 function call(name, request) {
-  return JSON.parse(engine.ccall(name, 'string', ['string'], [JSON.stringify(request)]));
+  const result = JSON.parse(engine.ccall(name, 'string', ['string'], [JSON.stringify(request)]));
+  for (const m of result.messages || []) {
+    if (m.file && m.file.startsWith(WORK + '/')) m.file = m.file.slice(WORK.length + 1);
+  }
+  return result;
 }
 
 function clearOutputs() {
