@@ -37,17 +37,27 @@ class QvSceneInput {
   struct State {
     static constexpr size_t kBufferSize = 64 * 1024;
 
+    // The file read; not owned, null between saveState and setFile.
     FILE* file = nullptr;
+    // The line of the next character, from 1; stops at INT_MAX.
     int line = 1;
+    // Set once the header line has been read and accepted.
     bool headerRead = false;
+    // Cleared for good when the header check fails: nothing more is read.
     bool usable = true;
+    // The word given back by putBackWord, read again before the file.
     std::string putBack;
+    // The next character of putBack to read; -1 when no word is pending.
     int putBackIndex = -1;
 
+    // Our buffering of `file`: buffer[position, end) is read but not yet
+    // taken; position > 0 once a character has been taken.
     std::unique_ptr<char[]> buffer{new char[kBufferSize]};
     size_t position = 0;
     size_t end = 0;
+    // Set when a read of the file has returned nothing; it stays set.
     bool atEnd = false;
+    // Whether the last getChar failed, so that putBackChar gives nothing back.
     bool lastReadFailed = false;
   };
   using SavedState = std::unique_ptr<State>;
@@ -126,7 +136,9 @@ class QvSceneInput {
   template <typename Integer>
   bool readClampedInteger(Integer& value);
 
+  // Never null: the state of the file being read (swapped by INCLUDE).
   SavedState state_;
+  // The DEF names read through this input, included files' too.
   DefTable defTable_;
 };
 

@@ -53,7 +53,13 @@ class QvField {
 
   void setContainer(QvNode* node) { container = node; }
 
+  // 1 when the value was read as one expression text for the whole field
+  // (`=...`) instead of one text per component: its values exist only when
+  // evaluated, so element SETs and APPEND refuse it.  Copies and -D values
+  // hold plain values again.
   int32_t isExpression = 0;
+  // The node whose field this is, named in the field's messages; not owned,
+  // null for fields not in a node (clones before they are placed).
   QvNode* container = nullptr;
 };
 
@@ -71,8 +77,11 @@ class QvMultiField : public QvField {
   // Reads the value at `index` (already allocated).
   virtual bool readElement(QvSceneInput* in, int index) = 0;
 
+  // The number of values held.
   int32_t num = 0;
+  // The number of values there is room for (at least num).
   int32_t capacity = 0;
+  // How many values the room grows by when a value is added past capacity.
   int32_t growBy = 10;
 };
 

@@ -75,13 +75,24 @@ class QvNode {
   void setNameExpression(FieldExpression* expression);
   FieldExpression* getNameExpression() const { return nameExpression; }
 
+  // 1 for classes whose fields are fixed by the class; 0 where a file may
+  // declare the fields (unknown nodes, statements, INCLUDE), which lets the
+  // reader accept a fields specification.
   int32_t isBuiltIn = 1;
+  // The enclosing node, recorded by bindParents and by the evaluation pass;
+  // not a reference (the parent owns this node, never the other way).
   QvNode* parent = nullptr;
+  // The line the node's class name was read at; -1 for nodes made by the
+  // program.
   int32_t line = -1;
   // A copy keeps the file of the node it was made from, but its messages
   // name only the line (the details of a message tell the file).
   bool isCopy = false;
+  // The file the node was read from (the scene's or an included one's);
+  // empty for nodes made by the program.
   QvAtom fileName;
+  // References held by groups, the DEF table and NodeRef holders; unref
+  // deletes the node when it falls to zero.
   int32_t refCount = 0;
   // Where the node's entry is in the registry of named nodes (-1: none).
   int32_t registrySlot = -1;
@@ -105,7 +116,9 @@ class QvNode {
   void writeFields(SceneWriter& out);
 
  private:
+  // The VARNAME expression that computes the DEF name; owned, may be null.
   FieldExpression* nameExpression = nullptr;
+  // The name read or given; empty when the node has none.
   QvAtom name;
 };
 
