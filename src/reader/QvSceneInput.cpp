@@ -40,15 +40,54 @@ bool isAsciiUpper(char c) { return c >= 'A' && c <= 'Z'; }
 bool isHexDigit(char c) { return std::isxdigit(static_cast<unsigned char>(c)) != 0; }
 
 // Characters that neither end a value text nor change how it is read.
-bool isOrdinaryValueChar(char c) {
-  static const struct Table {
-    bool ordinary[256];
-    Table() {
-      for (int i = 0; i < 256; ++i) ordinary[i] = !isSceneSpace(i) && std::strchr("\\\",()[]", i) == nullptr;
-    }
-  } table;
-  return table.ordinary[static_cast<unsigned char>(c)];
+constexpr bool ordinaryValueChar(int c) {
+  if (c == 0 || characterclasses::classesOf(c) & characterclasses::kSpace) return false;
+  for (const char* p = "\\\",()[]"; *p != '\0'; ++p) {
+    if (*p == c) return false;
+  }
+  return true;
 }
+
+struct OrdinaryValueChars {
+  bool ordinary[256] = {};
+  constexpr OrdinaryValueChars() {
+    for (int c = 0; c < 256; ++c) ordinary[c] = ordinaryValueChar(c);
+  }
+};
+
+constexpr OrdinaryValueChars kOrdinaryValueChars{};
+
+bool isOrdinaryValueChar(char c) { return kOrdinaryValueChars.ordinary[static_cast<unsigned char>(c)]; }
+
+// Skips the white space already buffered, counting lines, without going
+// through getChar.  True when it stopped in front of a buffered character
+// that is neither white space nor the start of a comment; false when the
+// buffer ran out, a comment starts or a word given back is pending, which
+// the character-wise loop handles.
+bool skipBufferedSpace(QvSceneInput::State& s) {
+  if (s.putBackIndex >= 0) return false;
+  const char* buffer = s.buffer.get();
+  size_t position = s.position;
+  const size_t end = s.end;
+  while (position < end) {
+    const char c = buffer[position];
+    if (c == '\n') {
+      countLine(s);
+    } else if (!isSceneSpace(c)) {
+      break;
+    }
+    ++position;
+  }
+  s.position = position;
+  if (position == end || buffer[position] == '#') return false;
+  s.lastReadFailed = false;
+  return true;
+}
+
+// Whether the character after a run of ordinary characters ends the value
+// text there: white space (a line end is taken with the text), a comma, or a
+// closing bracket that no opening one matches.
+bool endsPlainValue(char c) { return isSceneSpace(c) || c == ',' || c == ']'; }
 
 }  // namespace
 
@@ -180,7 +219,7 @@ bool QvSceneInput::skipWhiteSpace() {
   if (!s.headerRead && s.putBackIndex < 0 && !checkHeader()) return false;
   bool headerChecked = s.headerRead;
   char c;
-  while (getChar(c)) {
+  while (!skipBufferedSpace(s) && getChar(c)) {
     if (c == '\n') {
       countLine(s);
     } else if (c == '#') {
@@ -286,6 +325,7 @@ bool QvSceneInput::readValueText(FieldExpression& expr, QvNode* node) {
   if (!skipWhiteSpace()) return false;
   expr.line = state_->line;
   expr.owner = node;
+  if (readPlainValueText(expr)) return true;
   char c;
   if (!getChar(c)) return false;
 
@@ -343,6 +383,28 @@ bool QvSceneInput::readValueText(FieldExpression& expr, QvNode* node) {
     text[length++] = c;
   }
   expr.setText(text, length);
+  return true;
+}
+
+// The common case of readValueText: a run of ordinary characters that
+// ends, within the buffer, at a character that ends a value.  The text is
+// taken straight from the buffer.  False, having read nothing, otherwise.
+bool QvSceneInput::readPlainValueText(FieldExpression& expr) {
+  State& s = *state_;
+  if (s.putBackIndex >= 0) return false;
+  const char* begin = s.buffer.get() + s.position;
+  const char* limit = s.buffer.get() + s.end;
+  const char* p = begin;
+  while (p < limit && isOrdinaryValueChar(*p)) ++p;
+  const size_t length = static_cast<size_t>(p - begin);
+  if (length == 0 || length >= kMaxValueText || p == limit || !endsPlainValue(*p)) return false;
+  s.position += length;
+  if (*p == '\n') {
+    ++s.position;
+    countLine(s);
+  }
+  s.lastReadFailed = false;
+  expr.setText(begin, length);
   return true;
 }
 

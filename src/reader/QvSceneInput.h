@@ -128,6 +128,7 @@ class QvSceneInput {
 
  private:
   bool getCharSlowly(char& c);
+  bool readPlainValueText(FieldExpression& expr);
   bool checkHeader();
   bool readRaw(char& c);  // the file only, no header check
   void unreadRaw();
