@@ -59,13 +59,21 @@ SceneWriter& SceneWriter::integer(long v) {
 }
 
 void SceneWriter::formatted(const char* format, va_list args) {
+  // Most lines are fixed texts, and most formatted ones are short.
+  if (std::strchr(format, '%') == nullptr) {
+    text(format);
+    return;
+  }
   va_list again;
   va_copy(again, args);
-  int length = std::vsnprintf(nullptr, 0, format, args);
-  if (length > 0) {
-    std::string text(static_cast<size_t>(length), '\0');
-    std::vsnprintf(&text[0], text.size() + 1, format, again);
-    this->text(text.c_str());
+  char shortText[256];
+  int length = std::vsnprintf(shortText, sizeof shortText, format, args);
+  if (length > 0 && static_cast<size_t>(length) < sizeof shortText) {
+    text(shortText);
+  } else if (length > 0) {
+    std::string longText(static_cast<size_t>(length), '\0');
+    std::vsnprintf(&longText[0], longText.size() + 1, format, again);
+    text(longText.c_str());
   }
   va_end(again);
 }
@@ -93,11 +101,9 @@ SceneWriter& SceneWriter::line(const char* format, ...) {
 }
 
 void SceneWriter::openNode(const char* name, const char* className) {
-  if (name != nullptr && name[0] != '\0') {
-    line("DEF %s %s {\n", name, className);
-  } else {
-    line("%s {\n", className);
-  }
+  indentation();
+  if (name != nullptr && name[0] != '\0') text("DEF ").text(name).character(' ');
+  text(className).text(" {\n");
   ++level_;
   ++nodesOpened_;
 }
