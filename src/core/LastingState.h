@@ -8,6 +8,9 @@
 //   expressionSerials       the last serial drawn (QvContext)
 //   randomGeneratorState    the state of the expression language's random
 //                           numbers (expr/functions/RandomGenerator.h)
+//
+// The recorded parses of recent expression texts (expr/RecordedParses.cpp)
+// are kept too; they follow from the texts alone, so no run sees another's.
 #ifndef LUMERIC_CORE_LASTINGSTATE_H
 #define LUMERIC_CORE_LASTINGSTATE_H
 

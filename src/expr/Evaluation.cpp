@@ -7,6 +7,7 @@
 #include "expr/ExpressionLexer.h"
 #include "expr/NestedParse.h"
 #include "expr/ParseContext.h"
+#include "expr/RecordedParses.h"
 #include "expr/TermArena.h"
 #include "scene/FieldExpression.h"
 
@@ -29,16 +30,19 @@ class TextCopy {
     }
     std::memcpy(place, text, size);
     text_ = place;
+    length_ = size - 1;
   }
   TextCopy(const TextCopy&) = delete;
   TextCopy& operator=(const TextCopy&) = delete;
 
   const char* text() const { return text_; }
+  size_t length() const { return length_; }
 
  private:
   char local_[256];
   std::unique_ptr<char[]> heap_;
   const char* text_;
+  size_t length_;
 };
 
 // Starts an evaluation and parses; the status is kept in the context.
@@ -75,7 +79,7 @@ int parseExpression(FieldExpression* expression, Term** result, int serial, int 
   NestedParse nesting(expression);
   const TextCopy text(nesting.admitted() ? expression->textFor(serial) : "0");
   ParseContext context(expression, text.text(), startToken, result, theContext.drawSerial());
-  return runExpressionParser(&context);
+  return parseOrReplay(&context, text.text(), text.length());
 }
 
 Term* evaluateTerm(FieldExpression* expression) { return evaluate(expression, 0); }

@@ -24,6 +24,7 @@ namespace lumeric { struct ParseContext; }
 #include "expr/LiteralBuilding.h"
 #include "expr/ParseContext.h"
 #include "expr/ParseErrors.h"
+#include "expr/ParseRecording.h"
 #include "expr/Term.h"
 #include "expr/TermOperators.h"
 
@@ -53,6 +54,22 @@ using namespace lumeric;
     (slot).term = produced_;        \
   } while (0)
 
+// While a parse is recorded (expr/ParseRecording.h), STEP records an
+// action with the symbols it takes and gives $$ the slot of its term;
+// GIVE_UP marks a rule the replay does not know.
+#define STEP(out, kind, ...)                                                                                 \
+  do {                                                                                                       \
+    if (context->recording != nullptr) (out).slot = context->recording->action(ParseStep::kind, {__VA_ARGS__}); \
+  } while (0)
+#define STEP0(out, kind)                                                                          \
+  do {                                                                                            \
+    if (context->recording != nullptr) (out).slot = context->recording->action(ParseStep::kind, {}); \
+  } while (0)
+#define GIVE_UP()                                                     \
+  do {                                                                \
+    if (context->recording != nullptr) context->recording->giveUp(); \
+  } while (0)
+
 namespace {
 
 const char* nameOf(const TokenValue& value) { return static_cast<StringTerm*>(value.term)->text; }
@@ -63,6 +80,7 @@ StringTerm* stringOf(const TokenValue& value) { return static_cast<StringTerm*>(
 static int yylex(YYSTYPE* value, ParseContext* context) {
   context->lexer.value = value;
   context->lookahead = context->lexer.nextToken();
+  if (context->recording != nullptr) context->recording->token(*value);
   return context->lookahead;
 }
 
@@ -93,18 +111,18 @@ static void yyerror(ParseContext*, const char*) {}
 %%
 
 statement
-  : expr                                  { *context->result = $1.term; }
-  | '=' expr                              { *context->result = $2.term; }
+  : expr                                  { *context->result = $1.term; STEP($$, kResult, $1); }
+  | '=' expr                              { *context->result = $2.term; STEP($$, kResult, $2); }
   | query
-  | USE nameExpr                          { *context->result = $2.term; }
-  | NAMEEXPR nameExpr                     { *context->result = $2.term; }
-  | DECLARE nameExpr ':' NAME expr        { declareField(nameOf($2), nameOf($4), $5.term, AT); }
-  | SET nameExpr ':' NAME expr            { setFieldValue(nameOf($2), nameOf($4), nullptr, nullptr, $5.term, AT); }
+  | USE nameExpr                          { GIVE_UP(); *context->result = $2.term; }
+  | NAMEEXPR nameExpr                     { GIVE_UP(); *context->result = $2.term; }
+  | DECLARE nameExpr ':' NAME expr        { GIVE_UP(); declareField(nameOf($2), nameOf($4), $5.term, AT); }
+  | SET nameExpr ':' NAME expr            { GIVE_UP(); setFieldValue(nameOf($2), nameOf($4), nullptr, nullptr, $5.term, AT); }
   | SET nameExpr ':' NAME '[' expr ']' expr
-                                          { setFieldValue(nameOf($2), nameOf($4), $6.term, nullptr, $8.term, AT); }
+                                          { GIVE_UP(); setFieldValue(nameOf($2), nameOf($4), $6.term, nullptr, $8.term, AT); }
   | SET nameExpr ':' NAME '[' expr ']' '[' expr ']' expr
-                                          { setFieldValue(nameOf($2), nameOf($4), $6.term, $9.term, $11.term, AT); }
-  | APPEND nameExpr ':' NAME expr         { appendFieldValue(nameOf($2), nameOf($4), $5.term, AT); }
+                                          { GIVE_UP(); setFieldValue(nameOf($2), nameOf($4), $6.term, $9.term, $11.term, AT); }
+  | APPEND nameExpr ':' NAME expr         { GIVE_UP(); appendFieldValue(nameOf($2), nameOf($4), $5.term, AT); }
   ;
 
 /* Queries are recognised but not answered: the evaluation fails. */
@@ -116,81 +134,103 @@ query
 expr
   : primary
   | '+' expr %prec '!'                    { $$ = $2; }
-  | '-' expr %prec '!'                    { YIELD($$, negateTerm($2.term, AT)); }
-  | expr '+' expr                         { YIELD($$, addTerms($1.term, $3.term, AT)); }
-  | expr '-' expr                         { YIELD($$, subtractTerms($1.term, $3.term, AT)); }
-  | expr '*' expr                         { YIELD($$, multiplyTerms($1.term, $3.term, AT)); }
-  | expr '/' expr                         { YIELD($$, divideTerms($1.term, $3.term, AT)); }
-  | expr '%' expr                         { YIELD($$, remainderTerms($1.term, $3.term, AT)); }
-  | expr '^' expr                         { YIELD($$, powerTerms($1.term, $3.term, AT)); }
-  | '!' expr                              { YIELD($$, notTerm($2.term, AT)); }
-  | expr AND expr                         { YIELD($$, andTerms($1.term, $3.term, AT)); }
-  | expr OR expr                          { YIELD($$, orTerms($1.term, $3.term, AT)); }
-  | expr EQ expr                          { YIELD($$, compareTerms(Comparison::kEqual, $1.term, $3.term, AT)); }
-  | expr NE expr                          { YIELD($$, compareTerms(Comparison::kNotEqual, $1.term, $3.term, AT)); }
-  | expr LT expr                          { YIELD($$, compareTerms(Comparison::kLess, $1.term, $3.term, AT)); }
-  | expr GT expr                          { YIELD($$, compareTerms(Comparison::kGreater, $1.term, $3.term, AT)); }
-  | expr LE expr                          { YIELD($$, compareTerms(Comparison::kLessOrEqual, $1.term, $3.term, AT)); }
-  | expr GE expr                          { YIELD($$, compareTerms(Comparison::kGreaterOrEqual, $1.term, $3.term, AT)); }
-  | expr '\'' NAME                        { YIELD($$, applyUnit($1.term, nameOf($3), AT)); }
-  | IF expr THEN expr ELSE expr           { YIELD($$, chooseTerm($2.term, $4.term, $6.term, AT)); }
+  | '-' expr %prec '!'                    { STEP($$, kNegate, $2); YIELD($$, negateTerm($2.term, AT)); }
+  | expr '+' expr                         { STEP($$, kAdd, $1, $3); YIELD($$, addTerms($1.term, $3.term, AT)); }
+  | expr '-' expr                         { STEP($$, kSubtract, $1, $3); YIELD($$, subtractTerms($1.term, $3.term, AT)); }
+  | expr '*' expr                         { STEP($$, kMultiply, $1, $3); YIELD($$, multiplyTerms($1.term, $3.term, AT)); }
+  | expr '/' expr                         { STEP($$, kDivide, $1, $3); YIELD($$, divideTerms($1.term, $3.term, AT)); }
+  | expr '%' expr                         { STEP($$, kRemainder, $1, $3); YIELD($$, remainderTerms($1.term, $3.term, AT)); }
+  | expr '^' expr                         { STEP($$, kPower, $1, $3); YIELD($$, powerTerms($1.term, $3.term, AT)); }
+  | '!' expr                              { STEP($$, kNot, $2); YIELD($$, notTerm($2.term, AT)); }
+  | expr AND expr                         { STEP($$, kAnd, $1, $3); YIELD($$, andTerms($1.term, $3.term, AT)); }
+  | expr OR expr                          { STEP($$, kOr, $1, $3); YIELD($$, orTerms($1.term, $3.term, AT)); }
+  | expr EQ expr                          { STEP($$, kEqual, $1, $3);
+        YIELD($$, compareTerms(Comparison::kEqual, $1.term, $3.term, AT)); }
+  | expr NE expr                          { STEP($$, kNotEqual, $1, $3);
+        YIELD($$, compareTerms(Comparison::kNotEqual, $1.term, $3.term, AT)); }
+  | expr LT expr                          { STEP($$, kLess, $1, $3);
+        YIELD($$, compareTerms(Comparison::kLess, $1.term, $3.term, AT)); }
+  | expr GT expr                          { STEP($$, kGreater, $1, $3);
+        YIELD($$, compareTerms(Comparison::kGreater, $1.term, $3.term, AT)); }
+  | expr LE expr                          { STEP($$, kLessOrEqual, $1, $3);
+        YIELD($$, compareTerms(Comparison::kLessOrEqual, $1.term, $3.term, AT)); }
+  | expr GE expr                          { STEP($$, kGreaterOrEqual, $1, $3);
+        YIELD($$, compareTerms(Comparison::kGreaterOrEqual, $1.term, $3.term, AT)); }
+  | expr '\'' NAME                        { STEP($$, kUnit, $1, $3); YIELD($$, applyUnit($1.term, nameOf($3), AT)); }
+  | IF expr THEN expr ELSE expr           { STEP($$, kChoose, $2, $4, $6);
+        YIELD($$, chooseTerm($2.term, $4.term, $6.term, AT)); }
   ;
 
 primary
   : NUMBER
   | STRING
-  | TRUE                                  { YIELD($$, ScalarTerm::make(1.0)); }
-  | FALSE                                 { YIELD($$, ScalarTerm::make(0.0)); }
-  | NAME '(' ')'                          { YIELD($$, callFunction(nameOf($1), nullptr, 0, AT)); }
+  | TRUE                                  { STEP0($$, kTrue); YIELD($$, ScalarTerm::make(1.0)); }
+  | FALSE                                 { STEP0($$, kFalse); YIELD($$, ScalarTerm::make(0.0)); }
+  | NAME '(' ')'                          { STEP($$, kCall, $1); YIELD($$, callFunction(nameOf($1), nullptr, 0, AT)); }
   | NAME '(' expr ')'
       { Term* arguments[] = {$3.term};
+        STEP($$, kCall, $1, $3);
         YIELD($$, callFunction(nameOf($1), arguments, 1, AT)); }
   | NAME '(' expr ',' expr ')'
       { Term* arguments[] = {$3.term, $5.term};
+        STEP($$, kCall, $1, $3, $5);
         YIELD($$, callFunction(nameOf($1), arguments, 2, AT)); }
   | NAME '(' expr ',' expr ',' expr ')'
       { Term* arguments[] = {$3.term, $5.term, $7.term};
+        STEP($$, kCall, $1, $3, $5, $7);
         YIELD($$, callFunction(nameOf($1), arguments, 3, AT)); }
   | NAME '(' expr ',' expr ',' expr ',' expr ')'
       { Term* arguments[] = {$3.term, $5.term, $7.term, $9.term};
+        STEP($$, kCall, $1, $3, $5, $7, $9);
         YIELD($$, callFunction(nameOf($1), arguments, 4, AT)); }
   | NAME '(' expr ',' expr ',' expr ',' expr ',' expr ',' expr ')'
       { Term* arguments[] = {$3.term, $5.term, $7.term, $9.term, $11.term, $13.term};
+        STEP($$, kCall, $1, $3, $5, $7, $9, $11, $13);
         YIELD($$, callFunction(nameOf($1), arguments, 6, AT)); }
   | NAME '(' expr ',' expr ',' expr ',' expr ',' expr ',' expr ','
              expr ',' expr ',' expr ',' expr ',' expr ',' expr ')'
       { Term* arguments[] = {$3.term, $5.term, $7.term, $9.term, $11.term, $13.term,
                              $15.term, $17.term, $19.term, $21.term, $23.term, $25.term};
+        STEP($$, kCall, $1, $3, $5, $7, $9, $11, $13, $15, $17, $19, $21, $23, $25);
         YIELD($$, callFunction(nameOf($1), arguments, 12, AT)); }
-  | NAME                                  { YIELD($$, referToField(nameOf($1), nullptr, nullptr, AT)); }
-  | NAME '[' expr ']'                     { YIELD($$, referToField(nameOf($1), $3.term, nullptr, AT)); }
-  | NAME '[' expr ']' '[' expr ']'        { YIELD($$, referToField(nameOf($1), $3.term, $6.term, AT)); }
-  | ':' NAME                              { YIELD($$, referToFieldInScope(nameOf($2), nullptr, nullptr, AT)); }
-  | ':' NAME '[' expr ']'                 { YIELD($$, referToFieldInScope(nameOf($2), $4.term, nullptr, AT)); }
-  | ':' NAME '[' expr ']' '[' expr ']'    { YIELD($$, referToFieldInScope(nameOf($2), $4.term, $7.term, AT)); }
+  | NAME                                  { STEP($$, kField, $1);
+        YIELD($$, referToField(nameOf($1), nullptr, nullptr, AT)); }
+  | NAME '[' expr ']'                     { STEP($$, kField, $1, $3);
+        YIELD($$, referToField(nameOf($1), $3.term, nullptr, AT)); }
+  | NAME '[' expr ']' '[' expr ']'        { STEP($$, kField, $1, $3, $6);
+        YIELD($$, referToField(nameOf($1), $3.term, $6.term, AT)); }
+  | ':' NAME                              { STEP($$, kFieldInScope, $2);
+        YIELD($$, referToFieldInScope(nameOf($2), nullptr, nullptr, AT)); }
+  | ':' NAME '[' expr ']'                 { STEP($$, kFieldInScope, $2, $4);
+        YIELD($$, referToFieldInScope(nameOf($2), $4.term, nullptr, AT)); }
+  | ':' NAME '[' expr ']' '[' expr ']'    { STEP($$, kFieldInScope, $2, $4, $7);
+        YIELD($$, referToFieldInScope(nameOf($2), $4.term, $7.term, AT)); }
   | nameExpr ':' NAME
-      { YIELD($$, referToNodeField(nameOf($1), nameOf($3), nullptr, nullptr, AT)); }
+      { STEP($$, kNodeField, $1, $3);
+        YIELD($$, referToNodeField(nameOf($1), nameOf($3), nullptr, nullptr, AT)); }
   | nameExpr ':' NAME '[' expr ']'
-      { YIELD($$, referToNodeField(nameOf($1), nameOf($3), $5.term, nullptr, AT)); }
+      { STEP($$, kNodeField, $1, $3, $5);
+        YIELD($$, referToNodeField(nameOf($1), nameOf($3), $5.term, nullptr, AT)); }
   | nameExpr ':' NAME '[' expr ']' '[' expr ']'
-      { YIELD($$, referToNodeField(nameOf($1), nameOf($3), $5.term, $8.term, AT)); }
+      { STEP($$, kNodeField, $1, $3, $5, $8);
+        YIELD($$, referToNodeField(nameOf($1), nameOf($3), $5.term, $8.term, AT)); }
   | tuple
   ;
 
 nameExpr
   : NAME
-  | nameExpr '~' '`' expr '`'             { YIELD($$, appendFormattedValue(stringOf($1), $4.term, AT)); }
-  | nameExpr '~' NAME                     { YIELD($$, joinNames(stringOf($1), stringOf($3))); }
+  | nameExpr '~' '`' expr '`'             { GIVE_UP(); YIELD($$, appendFormattedValue(stringOf($1), $4.term, AT)); }
+  | nameExpr '~' NAME                     { GIVE_UP(); YIELD($$, joinNames(stringOf($1), stringOf($3))); }
   ;
 
 tuple
   : '(' list ')'                          { $$ = $2; }
-  | tuple ';' '(' list ')'                { YIELD($$, appendMatrixRow($1.term, $4.term, AT)); }
+  | tuple ';' '(' list ')'                { STEP($$, kAppendMatrixRow, $1, $4); YIELD($$, appendMatrixRow($1.term, $4.term, AT)); }
   ;
 
 list
   : expr
-  | list ',' expr                         { YIELD($$, appendToVector($1.term, $3.term, AT)); }
+  | list ',' expr                         { STEP($$, kAppendToVector, $1, $3); YIELD($$, appendToVector($1.term, $3.term, AT)); }
   ;
 
 %%

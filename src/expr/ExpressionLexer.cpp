@@ -160,7 +160,7 @@ ExpressionLexer::ExpressionLexer(FieldExpression* source, const char* text, int 
     : expression(source), cursor(text), value(nullptr), startToken(firstToken) {}
 
 int ExpressionLexer::nextToken() {
-  *value = TokenValue{nullptr, 0, nullptr};
+  *value = TokenValue{nullptr, 0, 0, nullptr};
   if (startToken != 0) {
     int token = startToken;
     startToken = 0;

@@ -9,6 +9,7 @@
 namespace lumeric {
 
 class FieldExpression;
+class ParseRecording;
 struct Term;
 
 struct ParseContext {
@@ -22,6 +23,7 @@ struct ParseContext {
   Term** result;
   int serial;                 // the parser's own serial, for nested lookups
   int lookahead = kEndToken;  // the token the lexer gave last
+  ParseRecording* recording = nullptr;  // set while a parse is recorded
 };
 
 // Runs the parser over the context's text: 0 when the text was accepted, 1

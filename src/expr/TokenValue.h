@@ -12,6 +12,7 @@ struct Term;
 struct TokenValue {
   const char* text;  // the token's first character in the expression text
   uint16_t length;   // the token's length plus one
+  uint16_t slot;     // the number of its term in a recorded parse
   Term* term;        // numbers, strings and names; null for other tokens
 };
 

@@ -6,6 +6,8 @@ set(LUMERIC_EXPR_SOURCES
   src/expr/TermConversions.cpp
   src/expr/MatrixSolver.cpp
   src/expr/ExpressionLexer.cpp
+  src/expr/ParseRecording.cpp
+  src/expr/RecordedParses.cpp
   src/expr/ParseErrors.cpp
   src/expr/LiteralBuilding.cpp
   src/expr/FieldReferences.cpp

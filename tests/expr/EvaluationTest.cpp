@@ -23,12 +23,16 @@ struct Case {
 
 class EvaluationTest : public ExpressionFixture {
  protected:
+  // Each text is evaluated three times: parsed, parsed while recorded, and
+  // replayed from the recording; all three must give the same.
   void check(const std::vector<Case>& cases) {
-    for (const Case& c : cases) {
-      Term* result = evaluateTerm(expression(c.text));
-      EXPECT_EQ(theContext.parseStatus, c.status) << c.text;
-      EXPECT_EQ(describeTerm(result), c.result) << c.text;
-      EXPECT_EQ(takeMessages(), c.messages) << c.text;
+    for (int round = 0; round < 3; ++round) {
+      for (const Case& c : cases) {
+        Term* result = evaluateTerm(expression(c.text));
+        EXPECT_EQ(theContext.parseStatus, c.status) << c.text << " (evaluation " << round + 1 << ")";
+        EXPECT_EQ(describeTerm(result), c.result) << c.text << " (evaluation " << round + 1 << ")";
+        EXPECT_EQ(takeMessages(), c.messages) << c.text << " (evaluation " << round + 1 << ")";
+      }
     }
   }
 
