@@ -44,10 +44,6 @@ TEST(FieldOverrideOption, SplitsAtTheFirstColonAndEqualsSign) {
 TEST(FieldOverrideOption, ValuesReplaceWhatTheFileGave) {
   ScratchDir dir;
   dir.write("scene.vlm", kParametric);
-  CommandResult plain = runLumeric({"-o", "-", "scene.vlm"}, dir.path());
-  ASSERT_EQ(plain.status, 0) << plain.err;
-  EXPECT_TRUE(contains(plain.out, "\t\ttranslation 1 1 1\n\t}\n\n\tSphere {\n\t\tradius 1\n"));
-
   // An expression, a whole-field expression in place of another, plain
   // numbers in place of an expression, and the last of two nodes named Ball.
   CommandResult changed = runLumeric({"-D", "Params:size=2*1.5", "-D", "Params:offset==(1,2,3)*2", "-DBall:radius=7",

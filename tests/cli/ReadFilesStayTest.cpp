@@ -53,11 +53,6 @@ TEST(ReadFilesStay, NoResultReplacesAFileTheRunReads) {
       {"-o onto a hard link to the input", {"-o", "hard.vlm", "scene.vlm"}, "", "hard.vlm", {}},
       {"-o onto the file standard input is", {"-o", "scene.vlm", "-"}, "exec <scene.vlm; ", "scene.vlm", {}},
       {"--deps onto the input", {"--deps", "scene.vlm", "-o", "out.wrl", "scene.vlm"}, "", "scene.vlm", {"out.wrl"}},
-      {"--deps onto an included file",
-       {"--deps", "parts/cup.wrl", "-o", "out.wrl", "scene.vlm"},
-       "",
-       "parts/cup.wrl",
-       {"out.wrl"}},
       {"output.wrl as the input", {"output.wrl"}, "", "output.wrl", {}},
   };
   for (const auto& c : cases) {
