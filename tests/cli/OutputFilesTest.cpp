@@ -1,6 +1,6 @@
 // What a run does to files: a result replaces its target only when it was
-// written whole, write errors are reported, the input is never destroyed,
-// and the comment line stays one line.
+// written whole, write errors are reported, and the comment line stays one
+// line.
 #include <gtest/gtest.h>
 
 #include <dirent.h>
