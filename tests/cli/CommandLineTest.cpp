@@ -23,6 +23,7 @@ TEST(CommandLineRun, UsageErrorsExitTwoAndWriteNothing) {
   const std::string malformed = " (use -D NAME:FIELD=VALUE)";
   std::vector<std::pair<std::vector<std::string>, std::string>> cases = {
       {{}, "no INPUT given"},
+      {{""}, "INPUT must not be empty"},
       {{"scene.vlm", "b.vlm"}, "only one INPUT may be given"},
       {{"--frobnicate", "scene.vlm"}, "unknown option --frobnicate"},
       {{"-o"}, "option -o needs a value"},
