@@ -11,8 +11,6 @@
 namespace lumeric {
 namespace {
 
-bool contains(const std::string& text, const std::string& piece) { return text.find(piece) != std::string::npos; }
-
 std::string part(int width) { return "#VRML V1.0 ascii\nCube { width " + std::to_string(width) + " }\n"; }
 
 // The files of the search, each holding a Cube of its own width.
@@ -21,7 +19,6 @@ void writeCandidates(const ScratchDir& dir) {
   dir.write("mk/cup.wrl", part(2));        // beside the scene
   dir.write("first/cup.wrl", part(3));     // the first -I
   dir.write("second/cup.wrl", part(4));    // the second -I
-  dir.write("second/lid.wrl", part(5));    // only in the second -I
 }
 
 TEST(IncludeSearch, TriesAsWrittenThenBesideThenEachDirectoryInOrder) {
@@ -36,7 +33,6 @@ TEST(IncludeSearch, TriesAsWrittenThenBesideThenEachDirectoryInOrder) {
       {"beside the including file", {"cup.wrl"}, "cup.wrl", 2, "mk/cup.wrl"},
       {"first -I", {"cup.wrl", "mk/cup.wrl"}, "cup.wrl", 3, "first/cup.wrl"},
       {"second -I", {"cup.wrl", "mk/cup.wrl", "first/cup.wrl"}, "cup.wrl", 4, "second/cup.wrl"},
-      {"only in the second -I", {}, "lid.wrl", 5, "second/lid.wrl"},
       {"nowhere", {}, "jar.wrl", 0, ""},
   };
   for (const auto& c : cases) {
@@ -93,17 +89,6 @@ TEST(IncludeSearch, ConfinementAppliesToThePlaceFound) {
   CommandResult beside = runLumeric({"--confine", "-I", "lib", "-o", "-", "scenes/scene.vlm"}, dir.path());
   EXPECT_EQ(beside.status, 0) << beside.err;
   EXPECT_TRUE(contains(beside.out, "width 2\n"));
-}
-
-TEST(IncludeSearch, OutputToKnowsAFileFoundBeside) {
-  ScratchDir dir;
-  const std::string scene = "#VRML V1.0 ascii\nSeparator {\n\tINCLUDE cup.wrl\n\tOUTPUT_TO mk/cup.wrl\n}\n";
-  dir.write("mk/scene.vlm", scene);
-  dir.write("mk/cup.wrl", part(2));
-  CommandResult run = runLumeric({"mk/scene.vlm"}, dir.path());
-  EXPECT_EQ(run.status, 1);
-  EXPECT_EQ(run.err, "error: File \"mk/scene.vlm\" Line 5: Cannot OUTPUT_TO file mk/cup.wrl - File is being read\n");
-  EXPECT_EQ(dir.read("mk/cup.wrl"), part(2));
 }
 
 }  // namespace

@@ -34,18 +34,5 @@ TEST(Lint, ReportsWhatEvaluationFindsAndWritesNothing) {
   EXPECT_FALSE(dir.exists("output.wrl"));
 }
 
-TEST(Lint, CannotBeCombinedWithAnOutput) {
-  ScratchDir dir;
-  dir.write("scene.vlm", kScene);
-  for (const std::vector<std::string>& arguments :
-       {std::vector<std::string>{"--lint", "-o", "out.wrl", "scene.vlm"},
-        std::vector<std::string>{"--lint", "--deps", "out.d", "scene.vlm"}}) {
-    const CommandResult run = runLumeric(arguments, dir.path());
-    EXPECT_EQ(run.status, 2);
-    EXPECT_NE(run.err.find("cannot be combined with --lint"), std::string::npos) << run.err;
-  }
-  EXPECT_FALSE(dir.exists("out.wrl"));
-}
-
 }  // namespace
 }  // namespace lumeric

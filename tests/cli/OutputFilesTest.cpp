@@ -1,6 +1,6 @@
 // What a run does to files: a result replaces its target only when it was
-// written whole, write errors are reported, the input is never destroyed,
-// and the comment line stays one line.
+// written whole, write errors are reported, and the comment line stays one
+// line.
 #include <gtest/gtest.h>
 
 #include <dirent.h>
@@ -21,8 +21,6 @@ const char kGood[] = "a good result from an earlier run\n";
 // Writes fail past one kilobyte, and the signal that would kill the
 // process at that moment is ignored.
 const char kSmallFileLimit[] = "ulimit -f 1; trap '' XFSZ; ";
-
-bool contains(const std::string& text, const std::string& piece) { return text.find(piece) != std::string::npos; }
 
 // A scene whose output is far larger than a kilobyte.
 std::string bigScene(const std::string& firstStatement) {
@@ -96,31 +94,6 @@ TEST(OutputFiles, WriteErrorsOfStreamsAndDevicesAreReported) {
   struct stat status;
   ASSERT_EQ(stat("/dev/full", &status), 0);
   EXPECT_TRUE(S_ISCHR(status.st_mode));
-}
-
-TEST(OutputFiles, OutputToNeverReplacesTheSceneBeingRead) {
-  // The scene is found where it is given, or through -d under another
-  // directory; either way OUTPUT_TO may not name it.
-  struct Case {
-    const char* sceneFile;
-    std::vector<std::string> arguments;
-  } cases[] = {
-      {"scene.vlm", {"scene.vlm"}},
-      {"scenes/scene.vlm", {"-d", "scenes/", "scene.vlm"}},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.sceneFile);
-    ScratchDir dir;
-    const std::string scene = std::string("#VRML V1.0 ascii\nGroup {\n\tOUTPUT_TO ") + c.sceneFile +
-                              "\n\tCube { width 3 }\n}\n";
-    dir.write(c.sceneFile, scene);
-    CommandResult run = runLumeric(c.arguments, dir.path());
-    EXPECT_EQ(run.status, 1);
-    EXPECT_EQ(run.err, std::string("error: File \"scene.vlm\" Line 4: Cannot OUTPUT_TO file ") + c.sceneFile +
-                           " - File is being read\n");
-    EXPECT_EQ(dir.read(c.sceneFile), scene);
-    EXPECT_TRUE(contains(dir.read("output.wrl"), "\t\twidth 3\n"));
-  }
 }
 
 TEST(OutputFiles, TheCommentLineShowsControlCharactersOfThePathAsQuestionMarks) {

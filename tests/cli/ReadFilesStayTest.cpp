@@ -8,6 +8,7 @@
 
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "support/SceneRunner.h"
@@ -52,11 +53,6 @@ TEST(ReadFilesStay, NoResultReplacesAFileTheRunReads) {
       {"-o onto a hard link to the input", {"-o", "hard.vlm", "scene.vlm"}, "", "hard.vlm", {}},
       {"-o onto the file standard input is", {"-o", "scene.vlm", "-"}, "exec <scene.vlm; ", "scene.vlm", {}},
       {"--deps onto the input", {"--deps", "scene.vlm", "-o", "out.wrl", "scene.vlm"}, "", "scene.vlm", {"out.wrl"}},
-      {"--deps onto an included file",
-       {"--deps", "parts/cup.wrl", "-o", "out.wrl", "scene.vlm"},
-       "",
-       "parts/cup.wrl",
-       {"out.wrl"}},
       {"output.wrl as the input", {"output.wrl"}, "", "output.wrl", {}},
   };
   for (const auto& c : cases) {
@@ -79,16 +75,55 @@ TEST(ReadFilesStay, NoResultReplacesAFileTheRunReads) {
   }
 }
 
-TEST(ReadFilesStay, OutputToMeetsTheFileItNamesIncludedLater) {
-  ScratchDir dir;
-  const std::string scene = "#VRML V1.0 ascii\nSeparator {\n\tOUTPUT_TO parts/cup.wrl\n\tINCLUDE parts/cup.wrl\n}\n";
-  dir.write("scene.vlm", scene);
-  dir.write("parts/cup.wrl", kPart);
-  CommandResult run = runLumeric({"scene.vlm"}, dir.path());
-  EXPECT_EQ(run.status, 1);
-  EXPECT_EQ(run.err, "error: Refusing to overwrite parts/cup.wrl, which this run reads\n");
-  EXPECT_EQ(dir.read("parts/cup.wrl"), kPart);
-  EXPECT_EQ(filesBelow(dir.path()), (std::set<std::string>{"parts", "parts/cup.wrl", "scene.vlm"}));
+// OUTPUT_TO may not name a file the run reads, however it was found: the
+// statement is refused and the translation goes on to output.wrl; a file
+// included after the statement is met at writing time, and nothing is
+// written.
+TEST(ReadFilesStay, OutputToNeverNamesAFileTheRunReads) {
+  const std::string header = "#VRML V1.0 ascii\nSeparator {\n\t";
+  struct {
+    const char* what;
+    std::vector<std::pair<std::string, std::string>> files;
+    std::vector<std::string> arguments;
+    std::string err;
+    const char* fallback;  // what output.wrl holds; "" when it is not written
+  } cases[] = {
+      {"the input",
+       {{"scene.vlm", header + "OUTPUT_TO scene.vlm\n\tCube { width 3 }\n}\n"}},
+       {"scene.vlm"},
+       "error: File \"scene.vlm\" Line 4: Cannot OUTPUT_TO file scene.vlm - File is being read\n",
+       "width 3"},
+      {"the input found under -d",
+       {{"scenes/scene.vlm", header + "OUTPUT_TO scenes/scene.vlm\n\tCube { width 3 }\n}\n"}},
+       {"-d", "scenes/", "scene.vlm"},
+       "error: File \"scene.vlm\" Line 4: Cannot OUTPUT_TO file scenes/scene.vlm - File is being read\n",
+       "width 3"},
+      {"an included file found beside the scene",
+       {{"mk/scene.vlm", header + "INCLUDE cup.wrl\n\tOUTPUT_TO mk/cup.wrl\n}\n"}, {"mk/cup.wrl", kPart}},
+       {"mk/scene.vlm"},
+       "error: File \"mk/scene.vlm\" Line 5: Cannot OUTPUT_TO file mk/cup.wrl - File is being read\n",
+       "height 4"},
+      {"a file included after the statement",
+       {{"scene.vlm", header + "OUTPUT_TO parts/cup.wrl\n\tINCLUDE parts/cup.wrl\n}\n"}, {"parts/cup.wrl", kPart}},
+       {"scene.vlm"},
+       "error: Refusing to overwrite parts/cup.wrl, which this run reads\n",
+       ""},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.what);
+    ScratchDir dir;
+    for (const auto& file : c.files) dir.write(file.first, file.second);
+    std::set<std::string> expected = filesBelow(dir.path());
+    CommandResult run = runLumeric(c.arguments, dir.path());
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.err, c.err);
+    for (const auto& file : c.files) EXPECT_EQ(dir.read(file.first), file.second);
+    if (*c.fallback != '\0') {
+      expected.insert("output.wrl");
+      EXPECT_TRUE(contains(dir.read("output.wrl"), c.fallback));
+    }
+    EXPECT_EQ(filesBelow(dir.path()), expected);
+  }
 }
 
 TEST(ReadFilesStay, FilesTheRunDoesNotReadAreReplaced) {

@@ -9,8 +9,6 @@
 namespace lumeric {
 namespace {
 
-bool contains(const std::string& text, const std::string& piece) { return text.find(piece) != std::string::npos; }
-
 const std::string kScene = "#VRML V1.0 ascii\nSeparator {\n\tINCLUDE cup.wrl\n\tFoo { }\n}\n";
 const std::string kPart = "#VRML V1.0 ascii\nCube { width 5 }\n";
 
@@ -44,17 +42,6 @@ TEST(StandardInput, TheNameGivenPlacesMessagesIncludesAndDependencies) {
                                      "cat mk/scene.vlm | ");
   EXPECT_EQ(unnamed.status, 1);
   EXPECT_EQ(dir.read("plain.d"), "plain.wrl: mk/cup.wrl\n\nmk/cup.wrl:\n");
-}
-
-TEST(StandardInput, CheckTakesTheLanguageFromTheName) {
-  ScratchDir dir;
-  dir.write("scene.vlm", "#VRML V1.0 ascii\nGroup {\n\tDECLARE x:y 3\n}\n");
-  CommandResult extended = runLumeric({"--check", "--stdin-name", "scene.vlm", "-"}, dir.path(), "exec <scene.vlm; ");
-  EXPECT_EQ(extended.status, 1);
-  EXPECT_EQ(extended.err, "error: File \"scene.vlm\" Line 4: Field x:y not found\n");
-  CommandResult plain = runLumeric({"--check", "-"}, dir.path(), "exec <scene.vlm; ");
-  EXPECT_EQ(plain.status, 1);
-  EXPECT_EQ(plain.err, "error: File \"<stdin>\" Line 3: Expected '{'; got 'x'\n");
 }
 
 }  // namespace

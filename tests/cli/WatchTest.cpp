@@ -155,12 +155,5 @@ TEST(Watch, EndsOnSigtermWithTheLastRunsStatus) {
   EXPECT_EQ(command.stop(SIGTERM), 1);
 }
 
-TEST(Watch, NeedsAnInputFile) {
-  ScratchDir dir;
-  const CommandResult run = runLumeric({"--watch", "-"}, dir.path());
-  EXPECT_EQ(run.status, 2);
-  EXPECT_NE(run.err.find("--watch needs an INPUT file"), std::string::npos) << run.err;
-}
-
 }  // namespace
 }  // namespace lumeric

@@ -51,7 +51,6 @@ TEST_F(FunctionTablesTest, Units) {
       {"250'cm", "scalar 2.5", {}},
       {"3'm + 2'Rad", "scalar 5", {}},
       {"2'km", "scalar 2", {"Conversion km not found"}},
-      {"(1,2)'m", "vector (1,2)", {"Conversion m not found"}},
       {"\"a\"'deg", "string \"a\"", {"Conversion deg not found"}},
   });
   EXPECT_EQ(valueOf("90'deg"), 3.141592653589793 / 2);
@@ -71,19 +70,14 @@ TEST_F(FunctionTablesTest, NamesIgnoreCaseAndCountsChooseTheFunction) {
 
 TEST_F(FunctionTablesTest, NotFoundMessagesByCount) {
   check({
-      {"f()", "none", {"Function f() not found"}},
       {"sin()", "none", {"Function sin() not found"}},
-      {"f(1)", "none", {"Function f(...) not found"}},
       {"sin((1,2))", "none", {"Function sin(...) not found"}},
       {"det((1,2,3))", "none", {"Function det(...) not found"}},
       {"Color(1)", "none", {"Function Color(...) not found"}},
       {"atan2(1,(1,2))", "none", {"Function atan2(...) not found"}},
       {"PointAt((1,2,3),(1,2,3),(1,2,3))", "none", {"Function PointAt(...) not found"}},
       {"FractalSurfaceData(3,3,1,(7))", "none", {"Function FractalSurfaceData(...) not found"}},
-      {"f(1,2,3,4,5,6)", "none", {"Function f(...) not found"}},
-      {"f((1,2),2,3,4,5,6)", "none", {}},
       {"Center((1,2),2,3,4,5,6)", "none", {}},
-      {"f(1,2,3,4,5,6,7,8,9,10,11,12)", "none", {}},
       {"Rotate(1,2,3,4,5,6,7,8,9,10,11,(1,2))", "none", {}},
   });
 }
@@ -137,14 +131,10 @@ TEST_F(FunctionTablesTest, MatrixFunctions) {
       {"DETERMINATE((2,0);(0,3))", "scalar 6", {}},
       {"det((1,2,3);(4,5,6))", "none", {"Cannot take the determinate of a 2 by 3 matrix"}},
       {"Inverse((4,7);(2,6))", "matrix (0.6,-0.7;-0.2,0.4)", {}},
-      {"Inverse((1,2,3);(4,5,6))", "none", {"Cannot compute the inverse of a 2 x 3 matrix"}},
       {"Transpose((1,2,3))", "matrix (1;2;3)", {}},
       {"Transpose((1,2);(3,4))", "matrix (1,3;2,4)", {}},
-      {"Convert3D((2,4,6,2))", "vector (1,2,3)", {}},
       {"Convert3D((2,4,6,2);(1,2,3,1))", "matrix (1,2,3;1,2,3)", {}},
       {"Convert4D((1,2,3))", "vector (1,2,3,1)", {}},
-      {"Convert4D((1,2,3);(4,5,6))", "matrix (1,2,3,1;4,5,6,1)", {}},
-      {"Convert4D((1,2))", "none", {"Cannot convert a 2D vector to a 4D vector"}},
   });
 }
 
@@ -188,9 +178,6 @@ TEST_F(FunctionTablesTest, PointAtWithGivenEye) {
       {"PointAt(1,2,3, 1,2,3)", "vector (0,1,0,0)", {"No direction specificed"}},
       {"PointAt((1,2),(1,2,3))", "none", {"PointAt(vector,vector) can only be used with vectors of three elements"}},
       // No owner, so no "position" field.
-      {"PointAt(1,2,3)", "none",
-       {"Local Field position not found",
-        "PointAt(x,y,z) can only be used in a node with a SFVec3f field named \"position\""}},
       {"PointAt((1,2,3))", "none",
        {"Local Field position not found", "PointAt(point) requires the 3D value for point"}},
       {"PointAt((1,2))", "none", {"PointAt(vector) can only be used with a vector with three elements"}},

@@ -67,14 +67,6 @@ TEST_F(MatrixSolverTest, RefusesNonSquareShapes) {
                                                       "Cannot compute the inverse of a 0 x 0 matrix"}));
 }
 
-TEST_F(MatrixSolverTest, InvertsTwoByTwo) {
-  MatrixTerm* inverse = inverseOf(matrix(2, 2, {4, 7, 2, 6}), expression("inv"));
-  ASSERT_NE(inverse, nullptr);
-  const double expected[] = {0.6, -0.7, -0.2, 0.4};
-  for (int k = 0; k < 4; ++k) EXPECT_NEAR(inverse->elements[k], expected[k], 1e-15) << k;
-  EXPECT_EQ(takeMessages(), std::vector<std::string>{});
-}
-
 TEST_F(MatrixSolverTest, SingularInverseIsReportedAndZero) {
   MatrixTerm* inverse = inverseOf(matrix(2, 2, {1, 2, 2, 4}), expression("inv"));
   ASSERT_NE(inverse, nullptr);

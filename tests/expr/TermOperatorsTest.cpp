@@ -119,11 +119,6 @@ TEST_F(TermOperatorsTest, ConvertsCoordinates) {
                             }));
 }
 
-TEST_F(TermOperatorsTest, Transposes) {
-  EXPECT_EQ(describeTerm(transposeTerm(vector({1, 2, 3}))), "matrix (1;2;3)");
-  EXPECT_EQ(describeTerm(transposeTerm(matrix(2, 3, {1, 2, 3, 4, 5, 6}))), "matrix (1,4;2,5;3,6)");
-}
-
 TEST_F(TermOperatorsTest, IndicesTruncateTowardZeroAndSaturate) {
   struct Case {
     double value;

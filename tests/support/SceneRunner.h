@@ -51,6 +51,11 @@ struct CommandResult {
 CommandResult runLumeric(const std::vector<std::string>& arguments, const std::string& workDir,
                          const std::string& shellSetUp = "");
 
+// Whether `piece` occurs in `text`.
+inline bool contains(const std::string& text, const std::string& piece) {
+  return text.find(piece) != std::string::npos;
+}
+
 // A GoogleTest parameter name made from a file name: every character that
 // is not a letter or digit becomes '_'.
 std::string testIdFromFileName(const std::string& name);

@@ -150,16 +150,6 @@ TEST(CliExportTest, OutputToIsIgnoredWhenExporting) {
   EXPECT_FALSE(dir.exists("named.wrl"));
 }
 
-TEST(CliExportTest, DepsNameTheExport) {
-  ScratchDir dir;
-  dir.write("part.wrl", "#VRML V1.0 ascii\nCube { }\n");
-  dir.write("scene.vlm", "#VRML V1.0 ascii\nSeparator { INCLUDE part.wrl }\n");
-  const CommandResult run = runLumeric({"--deps", "out.d", "-o", "out.glb", "scene.vlm"}, dir.path());
-  ASSERT_EQ(run.status, 0) << run.err;
-  const std::string rule = dir.read("out.d");
-  EXPECT_EQ(rule.substr(0, rule.find('\n')), "out.glb: scene.vlm part.wrl") << rule;
-}
-
 // An export also reads what the scene shows by reference: inlined scenes
 // and texture images.  --deps names them, and no export file replaces one.
 TEST(CliExportTest, InlinedScenesAndTexturesCountAsRead) {
