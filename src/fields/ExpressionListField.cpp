@@ -59,6 +59,8 @@ bool ExpressionListField::readTexts(QvSceneInput* in, int index, bool lookForExp
   for (int k = 0; k < n; ++k) {
     if (!in->readValueText(first[k], container)) return false;
   }
+  // Every text of the element now has the container as owner.
+  if (container != nullptr && index == ownedCount_) ownedCount_ = index + 1;
   if (lookForExpression && first[0].startsWith('=')) isExpression = 1;
   return true;
 }

@@ -15,7 +15,10 @@ class QvNode;
 class FieldExpression {
  public:
   FieldExpression() { clearStorage(); }
-  ~FieldExpression() { freeText(); }
+  // Most texts live inside the holder, which then has nothing to free.
+  ~FieldExpression() {
+    if (form() == kHeapForm) freeText();
+  }
   // Copies text, mark and line; the owner of the target stays as it was
   // (a copy-constructed holder starts without owner).
   FieldExpression(const FieldExpression& other);
