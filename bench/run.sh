@@ -9,6 +9,8 @@
 #   cat        cat FILE > /dev/null, the floor set by reading the bytes
 #   lumeric    the release translator, lumeric -o OUT FILE
 #   coin       Coin reading and writing the scene (vrml1check roundtrip)
+#   numcopy    the shared number-copy tool (../shared/bench/numcopy.cpp
+#              --to-chars), when that file is there
 # Each is run REPEAT times (default 3; environment variable BENCH_REPEAT); the
 # table shows the shortest wall time and the largest peak resident memory
 # of the process. Columns and summary lines keep their format so that runs
@@ -88,13 +90,22 @@ cc -O2 -o "$work/peak" "$work/peak.c"
 python3 "$root/bench/make_scene.py" 200000 10 "$work/points-2e5.wrl" >/dev/null
 python3 "$root/bench/make_scene.py" 1000000 50 "$work/points-1e6.wrl" >/dev/null
 
-python3 - "$work" "$translator" "$reader" "$repeat" <<'PYTHON'
+# The number-copy tool of the shared benchmark material, when it is there:
+# it only parses every number and writes it back, the speed limit of a
+# text-to-text translator.
+numcopy=""
+numcopy_source="$root/../shared/bench/numcopy.cpp"
+if [ -f "$numcopy_source" ] && c++ -O2 -std=c++17 -o "$work/numcopy" "$numcopy_source" 2>/dev/null; then
+  numcopy="$work/numcopy"
+fi
+
+python3 - "$work" "$translator" "$reader" "$repeat" "$numcopy" <<'PYTHON'
 import os
 import subprocess
 import sys
 import time
 
-work, translator, reader, repeat = sys.argv[1], sys.argv[2], sys.argv[3], int(sys.argv[4])
+work, translator, reader, repeat, numcopy = sys.argv[1], sys.argv[2], sys.argv[3], int(sys.argv[4]), sys.argv[5]
 files = ["points-2e5.wrl", "points-1e6.wrl"]
 launcher = os.path.join(work, "peak")
 
@@ -121,6 +132,8 @@ def tools(path):
     yield "cat", ["cat", path]
     yield "lumeric", [translator, "-o", os.path.join(work, "out.wrl"), path] if translator else None
     yield "coin", [reader, "roundtrip", path]
+    if numcopy:
+        yield "numcopy", [numcopy, "--to-chars", path]
 
 
 rows = {}
@@ -145,6 +158,9 @@ for name in files:
         print(f"speed lumeric/coin {name}: {ratio:.2f} (coin seconds / lumeric seconds)")
     else:
         print(f"speed lumeric/coin {name}: n/a")
+    if (name, "lumeric") in rows and (name, "numcopy") in rows:
+        ratio = rows[(name, "numcopy")] / rows[(name, "lumeric")]
+        print(f"speed lumeric/numcopy {name}: {ratio:.2f} (numcopy seconds / lumeric seconds)")
 small, large = files
 size_growth = os.path.getsize(os.path.join(work, large)) / os.path.getsize(os.path.join(work, small))
 for tool in ("lumeric", "coin", "cat"):
