@@ -1,12 +1,61 @@
 // The expression evaluator on arbitrary text: the text becomes the value of
 // fields and statements of a small scene with named nodes and declared
 // fields, so that references, assignments and function calls all meet it.
+//
+// With LUMERIC_FUZZ_REPLAY_CHECK set, each scene is translated three times
+// (what outlives runs set back in between) and the third run must post the
+// messages and write the bytes of the first: by the third run every text has
+// been recorded and is replayed, so this checks the replay against the parse.
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
 #include <string>
 
 #include "FuzzHarness.h"
+#include "core/LastingState.h"
+#include "expr/functions/RandomGenerator.h"
 #include "lumeric/lumeric.h"
 
 namespace {
+
+class MessageLog : public CReportErrorView {
+ public:
+  int post(const char* text, int flag) override {
+    log += std::to_string(flag) + ":" + (text != nullptr ? text : "") + "\n";
+    return 0;
+  }
+  std::string log;
+};
+
+// The messages and the output of one translation of `path`.
+std::string translate(std::string& path) {
+  MessageLog messages;
+  char outputName[256] = "";
+  char directory[] = "";
+  lumeric::limitNextRun();
+  ParseVRMLLumeric(&path[0], &messages, directory, outputName);
+  std::ifstream output(outputName, std::ios::binary);
+  std::ostringstream bytes;
+  bytes << output.rdbuf();
+  return messages.log + "--\n" + bytes.str();
+}
+
+void checkReplay(std::string& path) {
+  const double quantum = lumeric::precisionQuantum;
+  const uint32_t random = lumeric::randomState();
+  const std::string first = translate(path);
+  for (int run = 2; run <= 3; ++run) {
+    lumeric::precisionQuantum = quantum;
+    lumeric::setRandomState(random);
+    const std::string later = translate(path);
+    if (run == 3 && later != first) {
+      std::fprintf(stderr, "replayed run differs from the first:\n%s\n==== against ====\n%s\n", first.c_str(),
+                   later.c_str());
+      std::abort();
+    }
+  }
+}
 
 // The first line of the input is one expression; it must stay on one line
 // to be read as one value text.
@@ -39,6 +88,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
       "VARNAME " + e + " Sphere { radius C:f }\n"
       "}\n";
   std::string path = lumeric::writeScene(scene);
+  static const bool replayCheck = std::getenv("LUMERIC_FUZZ_REPLAY_CHECK") != nullptr;
+  if (replayCheck) {
+    checkReplay(path);
+    return 0;
+  }
   char outputName[256];
   char directory[] = "";
   lumeric::limitNextRun();
