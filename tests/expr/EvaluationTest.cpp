@@ -282,9 +282,13 @@ TEST_F(EvaluationTest, DeepTextsFailCleanly) {
     EXPECT_EQ(theContext.parseStatus, status);
     EXPECT_EQ(takeMessages(), std::vector<std::string>{"Expression too complex: found char -1"}) << text.size();
   }
-  // Left-associative chains never grow the stack.
-  EXPECT_EQ(evaluateScalar(expression(repeat("1+", 10000) + "1"), &value), 1);
-  EXPECT_EQ(value, 10001);
+  // Left-associative chains never grow the stack.  Such a text makes more
+  // terms than a recorded parse holds, so it is parsed every time.
+  for (int round = 0; round < 3; ++round) {
+    value = 0;
+    EXPECT_EQ(evaluateScalar(expression(repeat("1+", 10000) + "1"), &value), 1);
+    EXPECT_EQ(value, 10001);
+  }
 }
 
 TEST_F(EvaluationTest, EntryPointsAnswerDifferently) {
