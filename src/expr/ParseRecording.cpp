@@ -23,14 +23,6 @@ const char* nameOf(Term* term) { return static_cast<StringTerm*>(term)->text; }
 
 Term* optional(Term* const* operands, int count, int index) { return index < count ? operands[index] : nullptr; }
 
-Term* compare(ParseStep kind, Term* left, Term* right, FieldExpression* at) {
-  static constexpr Comparison kComparisons[] = {Comparison::kEqual, Comparison::kNotEqual,
-                                                 Comparison::kLess,  Comparison::kGreater,
-                                                 Comparison::kLessOrEqual, Comparison::kGreaterOrEqual};
-  const int index = static_cast<int>(kind) - static_cast<int>(ParseStep::kEqual);
-  return compareTerms(kComparisons[index], left, right, at);
-}
-
 // The term an action step makes, as the parser's action makes it.
 Term* act(ParseStep kind, Term* const* in, int count, FieldExpression* at) {
   switch (kind) {
@@ -55,12 +47,17 @@ Term* act(ParseStep kind, Term* const* in, int count, FieldExpression* at) {
     case ParseStep::kOr:
       return orTerms(in[0], in[1], at);
     case ParseStep::kEqual:
+      return compareTerms(Comparison::kEqual, in[0], in[1], at);
     case ParseStep::kNotEqual:
+      return compareTerms(Comparison::kNotEqual, in[0], in[1], at);
     case ParseStep::kLess:
+      return compareTerms(Comparison::kLess, in[0], in[1], at);
     case ParseStep::kGreater:
+      return compareTerms(Comparison::kGreater, in[0], in[1], at);
     case ParseStep::kLessOrEqual:
+      return compareTerms(Comparison::kLessOrEqual, in[0], in[1], at);
     case ParseStep::kGreaterOrEqual:
-      return compare(kind, in[0], in[1], at);
+      return compareTerms(Comparison::kGreaterOrEqual, in[0], in[1], at);
     case ParseStep::kUnit:
       return applyUnit(in[0], nameOf(in[1]), at);
     case ParseStep::kChoose:
