@@ -9,6 +9,8 @@
 #   scripts/fuzz.sh [TARGET...]     TARGET: ParseFuzzer CheckFuzzer ExpressionFuzzer ExportFuzzer
 # FUZZ_RUNS=N runs N inputs per target instead of a time.
 # FUZZ_PARALLEL=N runs up to N targets at once (default 1).
+# FUZZ_TIMEOUT=S counts an input as a hang after S seconds (default 10);
+# raise it when the targets share the machine with other work.
 # Each target logs to build/fuzz/run/TARGET/fuzz-0.log; the last lines give
 # its count of executions (stat::number_of_executed_units).
 set -euo pipefail
@@ -47,7 +49,7 @@ runTarget() {
   # replayed with them afterwards (run the target on the artifact).
   (cd "$workdir" && TMPDIR="$scratch" ASAN_OPTIONS="${ASAN_OPTIONS:-malloc_context_size=0}" "$build/fuzz/lumeric_fuzz_$target" "$corpus" "$targetSeeds" \
     -dict="$root/fuzz/lumeric.dict" -jobs=1 -workers=1 \
-    -timeout=10 -rss_limit_mb=2048 -max_len=4096 -print_final_stats=1 "${limit[@]}" \
+    -timeout="${FUZZ_TIMEOUT:-10}" -rss_limit_mb=2048 -max_len=4096 -print_final_stats=1 "${limit[@]}" \
     -artifact_prefix="$build/artifacts/$target-") ||
     echo "== $target stopped on a finding: see $build/artifacts/"
   grep -h 'stat::number_of_executed_units' "$workdir/fuzz-0.log" | sed "s/^/$target: /" || true
