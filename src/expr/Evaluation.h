@@ -5,6 +5,8 @@
 #ifndef LUMERIC_EXPR_EVALUATION_H
 #define LUMERIC_EXPR_EVALUATION_H
 
+#include <cstddef>
+
 #include "expr/Term.h"
 
 namespace lumeric {
@@ -24,6 +26,11 @@ StringTerm* evaluateString(FieldExpression* expression);
 StringTerm* evaluateName(FieldExpression* expression);
 // 1 and *out when the parse succeeded with a scalar; else 0, *out untouched.
 int evaluateScalar(FieldExpression* expression, double* out);
+// When the text is one plain decimal number (core/DecimalText.h), takes the
+// steps evaluateScalar takes for it and copies the text into `text`
+// (kMaxPlainDecimal + 2 bytes); returns its length.  Otherwise returns 0
+// and nothing happened.  Writers use it to round the digits themselves.
+size_t evaluateDecimal(FieldExpression* expression, char* text);
 // 1 when the parse succeeded with a vector of exactly n elements, copied to
 // out[0..n-1]; else 0.
 int evaluateVector(FieldExpression* expression, double* out, int n);

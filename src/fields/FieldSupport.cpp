@@ -4,6 +4,7 @@
 #include <string>
 
 #include "expr/Evaluation.h"
+#include "expr/TermConversions.h"
 #include "scene/FieldExpression.h"
 
 namespace lumeric {
@@ -16,6 +17,36 @@ double numberOf(FieldExpression& expr) {
 
 void numbersOf(FieldExpression* exprs, int count, double* out) {
   for (int k = 0; k < count; ++k) out[k] = numberOf(exprs[k]);
+}
+
+void WrittenNumber::evaluate(FieldExpression& expression) {
+  expression_ = &expression;
+  length_ = evaluateDecimal(&expression, text_);
+  if (length_ == 0) value_ = numberOf(expression);
+}
+
+void WrittenNumber::checkFinite() {
+  if (length_ == 0) value_ = finiteAt(value_, expression_);
+}
+
+void WrittenNumber::write(SceneWriter& out, bool round) const {
+  if (length_ != 0) {
+    out.decimal(text_, length_, round);
+  } else if (round) {
+    out.rounded(value_);
+  } else {
+    out.number(value_);
+  }
+}
+
+void WrittenNumber::writeInteger(SceneWriter& out) const {
+  char digits[32];
+  const int length = length_ != 0 ? truncateDecimalText(text_, length_, digits) : 0;
+  if (length != 0) {
+    out.text(digits, static_cast<size_t>(length));
+  } else {
+    out.integer(truncateToInt(value()));
+  }
 }
 
 void storeNumbers(FieldExpression* exprs, const double* values, int count) {

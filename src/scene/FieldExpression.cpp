@@ -7,6 +7,7 @@
 #include "core/QvContext.h"
 #include "core/NumberText.h"
 #include "core/RunState.h"
+#include "core/ShortCopy.h"
 #include "scene/QvNode.h"
 #include "scene/SceneMessages.h"
 
@@ -54,17 +55,6 @@ void FieldExpression::freeText() {
   clearStorage();
 }
 
-const char* FieldExpression::text() const {
-  switch (form()) {
-    case kInlineForm:
-      return storage_.bytes;
-    case kHeapForm:
-      return storage_.heap.pointer;
-    default:
-      return nullptr;
-  }
-}
-
 void FieldExpression::setText(const char* text) {
   if (text == nullptr) {
     freeText();
@@ -79,12 +69,12 @@ void FieldExpression::setText(const char* text, size_t length) {
     return;
   }
   if (length < kInline) {
-    // The source may be our own text; copy before releasing it.
-    char copy[kInline];
-    std::memcpy(copy, text, length);
+    // The source may be our own text; copy before releasing it.  The zeros
+    // are the terminator and the inline form.
+    char copy[kInline] = {};
+    copyShort(copy, text, length);
     freeText();
-    std::memcpy(storage_.bytes, copy, length);
-    std::memset(storage_.bytes + length, 0, kInline - length);
+    std::memcpy(storage_.bytes, copy, kInline);
     return;
   }
   char* heap = static_cast<char*>(std::malloc(length + 1));

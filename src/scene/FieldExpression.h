@@ -40,7 +40,11 @@ class FieldExpression {
   void attachOwner(QvNode* node);
 
   // The text, or null.
-  const char* text() const;
+  const char* text() const {
+    const char f = form();
+    if (f == kInlineForm) return storage_.bytes;
+    return f == kHeapForm ? storage_.heap.pointer : nullptr;
+  }
   bool hasText() const {
     const char* t = text();
     return t != nullptr && t[0] != '\0';

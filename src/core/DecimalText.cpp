@@ -1,0 +1,177 @@
+#include "core/DecimalText.h"
+
+#include "core/CharacterClasses.h"
+#include "core/FloatText.h"
+#include "core/ShortCopy.h"
+
+namespace lumeric {
+
+namespace {
+
+constexpr int kMaxDigits = 15;
+
+// The significant digits of a decimal number, most significant first, and
+// its place: the value is 0.d1d2d3... * 10^exponent.
+struct Digits {
+  char d[kMaxPlainDecimal + 2];
+  int count = 0;
+  int exponent = 0;
+};
+
+// Keeps the first `keep` digits (1 <= keep < count), rounding the rest half
+// away from zero.  False on an exact half.
+bool keepDigits(Digits& x, int keep) {
+  const char first = x.d[keep];
+  bool up = first > '5';
+  if (first == '5') {
+    for (int i = keep + 1; i < x.count && !up; ++i) up = x.d[i] != '0';
+    if (!up) return false;
+  }
+  x.count = keep;
+  if (!up) return true;
+  int i = keep - 1;
+  while (i >= 0 && x.d[i] == '9') x.d[i--] = '0';
+  if (i >= 0) {
+    ++x.d[i];
+  } else {
+    // 9...9 carried into a new leading digit.
+    x.d[0] = '1';
+    for (int k = 1; k < keep; ++k) x.d[k] = '0';
+    ++x.exponent;
+  }
+  return true;
+}
+
+}  // namespace
+
+bool isPlainDecimal(const char* text, size_t* length) {
+  const char* p = text;
+  if (*p == '-' || *p == '+') ++p;
+  const char* start = p;
+  if (p[0] == '0' && isAsciiDigit(p[1])) return false;
+  bool digits = false;
+  for (; isAsciiDigit(*p); ++p) digits = true;
+  if (*p == '.') {
+    for (++p; isAsciiDigit(*p); ++p) digits = true;
+  }
+  if (!digits || *p != '\0' || static_cast<size_t>(p - start) > kMaxPlainDecimal) return false;
+  *length = static_cast<size_t>(p - text);
+  return true;
+}
+
+double plainDecimalValue(const char* text, size_t length) {
+  const bool negative = text[0] == '-';
+  const size_t sign = negative || text[0] == '+' ? 1 : 0;
+  double value = 0;
+  parseDecimalText(text + sign, text + length, &value);
+  return negative ? -value : value;
+}
+
+// The text's value is D = m * 10^-f exactly.  The step rounding divides the
+// double nearest D by the double nearest 10^-d and rounds; with at most 15
+// digits in play, both errors are far smaller than the distance from D *
+// 10^d to a half, unless it is one, so the step count is D * 10^d rounded.
+// The product with the step is then within two units of the last bit of the
+// decimal result R, and "%g" of it is R rounded to six digits, again unless
+// R lies exactly on a half.
+int roundDecimalText(const char* text, size_t length, int stepDecimals, char* out) {
+  const char* p = text;
+  const char* end = text + length;
+  const bool negative = *p == '-';
+  if (*p == '-' || *p == '+') ++p;
+  // The integer part is empty, "0", or starts with a digit other than 0.
+  const char* integerEnd = p;
+  while (integerEnd < end && *integerEnd != '.') ++integerEnd;
+  const char* fraction = integerEnd < end ? integerEnd + 1 : end;
+  Digits x;
+  if (integerEnd - p > 1 || (integerEnd - p == 1 && *p != '0')) {
+    const size_t integerDigits = static_cast<size_t>(integerEnd - p);
+    const size_t fractionDigits = static_cast<size_t>(end - fraction);
+    if (integerDigits + fractionDigits > kMaxDigits) return 0;
+    copyShort(x.d, p, integerDigits);
+    copyShort(x.d + integerDigits, fraction, fractionDigits);
+    x.count = static_cast<int>(integerDigits + fractionDigits);
+    x.exponent = static_cast<int>(integerDigits);
+  } else {
+    const char* first = fraction;
+    while (first < end && *first == '0') ++first;
+    if (end - first > kMaxDigits) return 0;
+    x.count = static_cast<int>(end - first);
+    copyShort(x.d, first, static_cast<size_t>(x.count));
+    x.exponent = -static_cast<int>(first - fraction);
+  }
+
+  if (stepDecimals >= 0 && x.count > 0) {
+    // The digits at or above the step's place.
+    int keep = x.exponent + stepDecimals;
+    if (keep > kMaxDigits) return 0;
+    if (keep < 0) {
+      x.count = 0;  // below a tenth of the step
+    } else if (keep < x.count) {
+      if (keep == 0) {
+        // Round the first digit into a leading zero.
+        for (int i = x.count; i > 0; --i) x.d[i] = x.d[i - 1];
+        x.d[0] = '0';
+        ++x.count;
+        ++x.exponent;
+        keep = 1;
+      }
+      if (!keepDigits(x, keep)) return 0;
+      if (x.d[0] == '0') x.count = 0;
+    }
+  }
+
+  char* o = out;
+  if (negative) *o++ = '-';
+  if (x.count == 0) {
+    *o++ = '0';
+    *o = '\0';
+    return static_cast<int>(o - out);
+  }
+  // Six significant digits, as "%g" writes.
+  if (x.count > 6 && !keepDigits(x, 6)) return 0;
+  const int decimalExponent = x.exponent - 1;
+  if (decimalExponent < -4 || decimalExponent >= 6) return 0;
+  int n = x.count;
+  while (n > 1 && x.d[n - 1] == '0') --n;
+
+  if (decimalExponent >= 0) {
+    for (int i = 0; i <= decimalExponent; ++i) *o++ = i < n ? x.d[i] : '0';
+    if (n > decimalExponent + 1) {
+      *o++ = '.';
+      for (int i = decimalExponent + 1; i < n; ++i) *o++ = x.d[i];
+    }
+  } else {
+    *o++ = '0';
+    *o++ = '.';
+    for (int i = -1; i > decimalExponent; --i) *o++ = '0';
+    for (int i = 0; i < n; ++i) *o++ = x.d[i];
+  }
+  *o = '\0';
+  return static_cast<int>(o - out);
+}
+
+int truncateDecimalText(const char* text, size_t length, char* out) {
+  const char* p = text;
+  const char* end = text + length;
+  const bool negative = *p == '-';
+  if (*p == '-' || *p == '+') ++p;
+  const char* digits = p;
+  while (p < end && *p == '0') ++p;  // "0.5" and "0"
+  const char* first = p;
+  while (p < end && *p != '.') ++p;
+  const long integerDigits = p - first;
+  const long allDigits = (end - digits) - (p < end ? 1 : 0);
+  if (integerDigits > 9 || allDigits > kMaxDigits) return 0;
+  char* o = out;
+  if (integerDigits == 0) {
+    *o++ = '0';
+  } else {
+    if (negative) *o++ = '-';
+    for (const char* q = first; q < p; ++q) *o++ = *q;
+  }
+  *o = '\0';
+  return static_cast<int>(o - out);
+}
+
+}  // namespace lumeric
