@@ -44,26 +44,30 @@ bool keepDigits(Digits& x, int keep) {
 
 }  // namespace
 
-bool isPlainDecimal(const char* text, size_t* length) {
+bool isPlainDecimal(const char* text, PlainDecimal* decimal) {
   const char* p = text;
   if (*p == '-' || *p == '+') ++p;
   const char* start = p;
   if (p[0] == '0' && isAsciiDigit(p[1])) return false;
   bool digits = false;
   for (; isAsciiDigit(*p); ++p) digits = true;
+  const char* point = p;
   if (*p == '.') {
     for (++p; isAsciiDigit(*p); ++p) digits = true;
   }
   if (!digits || *p != '\0' || static_cast<size_t>(p - start) > kMaxPlainDecimal) return false;
-  *length = static_cast<size_t>(p - text);
+  decimal->text = text;
+  decimal->length = static_cast<size_t>(p - text);
+  decimal->point = static_cast<size_t>(point - text);
   return true;
 }
 
-double plainDecimalValue(const char* text, size_t length) {
+double plainDecimalValue(const PlainDecimal& decimal) {
+  const char* text = decimal.text;
   const bool negative = text[0] == '-';
   const size_t sign = negative || text[0] == '+' ? 1 : 0;
   double value = 0;
-  parseDecimalText(text + sign, text + length, &value);
+  parseDecimalText(text + sign, text + decimal.length, &value);
   return negative ? -value : value;
 }
 
@@ -74,14 +78,13 @@ double plainDecimalValue(const char* text, size_t length) {
 // The product with the step is then within two units of the last bit of the
 // decimal result R, and "%g" of it is R rounded to six digits, again unless
 // R lies exactly on a half.
-int roundDecimalText(const char* text, size_t length, int stepDecimals, char* out) {
-  const char* p = text;
-  const char* end = text + length;
+int roundDecimalText(const PlainDecimal& decimal, int stepDecimals, char* out) {
+  const char* p = decimal.text;
+  const char* end = p + decimal.length;
   const bool negative = *p == '-';
   if (*p == '-' || *p == '+') ++p;
   // The integer part is empty, "0", or starts with a digit other than 0.
-  const char* integerEnd = p;
-  while (integerEnd < end && *integerEnd != '.') ++integerEnd;
+  const char* integerEnd = decimal.text + decimal.point;
   const char* fraction = integerEnd < end ? integerEnd + 1 : end;
   Digits x;
   if (integerEnd - p > 1 || (integerEnd - p == 1 && *p != '0')) {
@@ -151,24 +154,24 @@ int roundDecimalText(const char* text, size_t length, int stepDecimals, char* ou
   return static_cast<int>(o - out);
 }
 
-int truncateDecimalText(const char* text, size_t length, char* out) {
-  const char* p = text;
-  const char* end = text + length;
+int truncateDecimalText(const PlainDecimal& decimal, char* out) {
+  const char* p = decimal.text;
+  const char* end = p + decimal.length;
   const bool negative = *p == '-';
   if (*p == '-' || *p == '+') ++p;
-  const char* digits = p;
-  while (p < end && *p == '0') ++p;  // "0.5" and "0"
-  const char* first = p;
-  while (p < end && *p != '.') ++p;
-  const long integerDigits = p - first;
-  const long allDigits = (end - digits) - (p < end ? 1 : 0);
+  const char* point = decimal.text + decimal.point;
+  // The integer part is empty, "0", or starts with a digit other than 0.
+  const char* first = point - p == 1 && *p == '0' ? point : p;
+  const long integerDigits = point - first;
+  const long allDigits = (end - p) - (point < end ? 1 : 0);
   if (integerDigits > 9 || allDigits > kMaxDigits) return 0;
   char* o = out;
   if (integerDigits == 0) {
     *o++ = '0';
   } else {
     if (negative) *o++ = '-';
-    for (const char* q = first; q < p; ++q) *o++ = *q;
+    copyShort(o, first, static_cast<size_t>(integerDigits));
+    o += integerDigits;
   }
   *o = '\0';
   return static_cast<int>(o - out);

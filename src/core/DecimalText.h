@@ -13,32 +13,40 @@ namespace lumeric {
 // lexer's quick number reading takes the same.
 constexpr size_t kMaxPlainDecimal = 31;
 
+// A plain decimal text, its length and the offset of its point (the length
+// when it has none).
+struct PlainDecimal {
+  const char* text;
+  size_t length;
+  size_t point;
+};
+
 // True when the terminated `text` is one plain decimal number: an optional
 // sign, digits with at most one point and at least one digit, no exponent,
 // no leading zero before another digit ("007" is not one, as in the
 // expression language), at most kMaxPlainDecimal characters after the sign.
-// *length is then its length.
-bool isPlainDecimal(const char* text, size_t* length);
+// *decimal then describes it.
+bool isPlainDecimal(const char* text, PlainDecimal* decimal);
 
-// The value of the plain decimal `text`, correctly rounded as the
-// expression language reads it.
-double plainDecimalValue(const char* text, size_t length);
+// The value of the plain decimal, correctly rounded as the expression
+// language reads it.
+double plainDecimalValue(const PlainDecimal& decimal);
 
 // Writes into `out` (at least 32 bytes) the text formatNumber writes for
-// the value of the plain decimal `text` after rounding to a step of
+// the value of the plain decimal after rounding to a step of
 // 10^-stepDecimals (as roundToPrecision does; no rounding when stepDecimals
 // is negative), reading the digits alone; returns its length.  Returns 0
 // when the digits do not settle the written text exactly: more than 15
 // significant digits, a tie in either rounding (where the rounding of the
 // binary value decides), or a value that "%g" writes with an exponent.
-int roundDecimalText(const char* text, size_t length, int stepDecimals, char* out);
+int roundDecimalText(const PlainDecimal& decimal, int stepDecimals, char* out);
 
 // Writes into `out` (at least 32 bytes) the "%d" text of the value of the
-// plain decimal `text` truncated toward zero, reading the digits alone;
-// returns its length.  Returns 0 for more than 9 digits before the point or
-// more than 15 in all, where the value may round across an integer or past
-// the range of int.
-int truncateDecimalText(const char* text, size_t length, char* out);
+// plain decimal truncated toward zero, reading the digits alone; returns
+// its length.  Returns 0 for more than 9 digits before the point or more
+// than 15 in all, where the value may round across an integer or past the
+// range of int.
+int truncateDecimalText(const PlainDecimal& decimal, char* out);
 
 }  // namespace lumeric
 

@@ -107,18 +107,19 @@ int evaluateScalar(FieldExpression* expression, double* out) {
   return 1;
 }
 
-size_t evaluateDecimal(FieldExpression* expression, char* text) {
+bool evaluateDecimal(FieldExpression* expression, char* text, PlainDecimal* decimal) {
   const char* current = expression != nullptr ? expression->text() : nullptr;
-  size_t length = 0;
-  if (current == nullptr || NestedParse::anyInProgress() || !isPlainDecimal(current, &length)) return 0;
+  if (current == nullptr || NestedParse::anyInProgress() || !isPlainDecimal(current, decimal)) return false;
+  const size_t length = decimal->length;
   if (length < 16) {
     copyShort(text, current, length);
     text[length] = '\0';
   } else {
     std::memcpy(text, current, length + 1);
   }
+  decimal->text = text;
   takePlainNumberSteps(expression);
-  return length;
+  return true;
 }
 
 int evaluateVector(FieldExpression* expression, double* out, int n) {

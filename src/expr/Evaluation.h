@@ -7,6 +7,7 @@
 
 #include <cstddef>
 
+#include "core/DecimalText.h"
 #include "expr/Term.h"
 
 namespace lumeric {
@@ -27,10 +28,11 @@ StringTerm* evaluateName(FieldExpression* expression);
 // 1 and *out when the parse succeeded with a scalar; else 0, *out untouched.
 int evaluateScalar(FieldExpression* expression, double* out);
 // When the text is one plain decimal number (core/DecimalText.h), takes the
-// steps evaluateScalar takes for it and copies the text into `text`
-// (kMaxPlainDecimal + 2 bytes); returns its length.  Otherwise returns 0
-// and nothing happened.  Writers use it to round the digits themselves.
-size_t evaluateDecimal(FieldExpression* expression, char* text);
+// steps evaluateScalar takes for it, copies the text into `text`
+// (kMaxPlainDecimal + 2 bytes) and describes the copy in *decimal; returns
+// true.  Otherwise returns false and nothing happened.  Writers use it to
+// round the digits themselves.
+bool evaluateDecimal(FieldExpression* expression, char* text, PlainDecimal* decimal);
 // 1 when the parse succeeded with a vector of exactly n elements, copied to
 // out[0..n-1]; else 0.
 int evaluateVector(FieldExpression* expression, double* out, int n);

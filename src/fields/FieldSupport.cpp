@@ -21,8 +21,14 @@ void numbersOf(FieldExpression* exprs, int count, double* out) {
 
 void WrittenNumber::evaluate(FieldExpression& expression) {
   expression_ = &expression;
-  length_ = evaluateDecimal(&expression, text_);
-  if (length_ == 0) value_ = numberOf(expression);
+  PlainDecimal decimal;
+  if (evaluateDecimal(&expression, text_, &decimal)) {
+    length_ = decimal.length;
+    point_ = decimal.point;
+  } else {
+    length_ = 0;
+    value_ = numberOf(expression);
+  }
 }
 
 void WrittenNumber::checkFinite() {
@@ -31,7 +37,7 @@ void WrittenNumber::checkFinite() {
 
 void WrittenNumber::write(SceneWriter& out, bool round) const {
   if (length_ != 0) {
-    out.decimal(text_, length_, round);
+    out.decimal(decimal(), round);
   } else if (round) {
     out.rounded(value_);
   } else {
@@ -41,7 +47,7 @@ void WrittenNumber::write(SceneWriter& out, bool round) const {
 
 void WrittenNumber::writeInteger(SceneWriter& out) const {
   char digits[32];
-  const int length = length_ != 0 ? truncateDecimalText(text_, length_, digits) : 0;
+  const int length = length_ != 0 ? truncateDecimalText(decimal(), digits) : 0;
   if (length != 0) {
     out.text(digits, static_cast<size_t>(length));
   } else {

@@ -38,12 +38,16 @@ class WrittenNumber {
   void write(SceneWriter& out, bool round) const;
   // As SceneWriter::integer() writes the value truncated (truncateToInt).
   void writeInteger(SceneWriter& out) const;
-  double value() const { return length_ != 0 ? plainDecimalValue(text_, length_) : value_; }
+  double value() const { return length_ != 0 ? plainDecimalValue(decimal()) : value_; }
 
  private:
+  PlainDecimal decimal() const { return PlainDecimal{text_, length_, point_}; }
+
   FieldExpression* expression_ = nullptr;
   double value_ = 0;
-  size_t length_ = 0;  // of the decimal text; 0 when the value stands
+  // The decimal text, its length (0 when the value stands) and its point.
+  size_t length_ = 0;
+  size_t point_ = 0;
   char text_[kMaxPlainDecimal + 2];
 };
 

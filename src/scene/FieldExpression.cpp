@@ -13,6 +13,8 @@
 
 namespace lumeric {
 
+long FieldExpression::heapTexts_ = 0;
+
 FieldExpression::FieldExpression(const FieldExpression& other) : mark(other.mark), line(other.line) {
   clearStorage();
   setText(other.text());
@@ -51,6 +53,7 @@ void FieldExpression::freeText() {
   if (form() == kHeapForm) {
     theRun.valueBytes -= static_cast<long long>(std::strlen(storage_.heap.pointer) + 1);
     std::free(storage_.heap.pointer);
+    --heapTexts_;
   }
   clearStorage();
 }
@@ -86,6 +89,7 @@ void FieldExpression::setText(const char* text, size_t length) {
   storage_.heap.pointer = heap;
   storage_.heap.reserved = 0;
   storage_.bytes[kInline - 1] = kHeapForm;
+  ++heapTexts_;
 }
 
 void FieldExpression::setNumber(double value) {

@@ -62,17 +62,17 @@ int SceneWriter::stepDecimals() {
   return decimals;
 }
 
-SceneWriter& SceneWriter::decimal(const char* text, size_t length, bool round) {
+SceneWriter& SceneWriter::decimal(const PlainDecimal& text, bool round) {
   const int decimals = round ? stepDecimals() : -1;
   if (decimals != kNoDecimals) {
     makeRoom(kNumberTextSize);
-    if (int written = roundDecimalText(text, length, decimals, buffer_ + used_)) {
+    if (int written = roundDecimalText(text, decimals, buffer_ + used_)) {
       used_ += static_cast<size_t>(written);
       return *this;
     }
   }
   // The digits left it open: the value decides, as for any number.
-  const double v = plainDecimalValue(text, length);
+  const double v = plainDecimalValue(text);
   return round ? rounded(v) : number(v);
 }
 

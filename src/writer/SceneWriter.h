@@ -14,6 +14,8 @@
 
 namespace lumeric {
 
+struct PlainDecimal;
+
 // How a list of more than one item is laid out.  The first item follows
 // " [ "; later items follow "," and a blank, except that every
 // `itemsPerLine` items a new line starts one level deeper than the field,
@@ -58,10 +60,10 @@ class SceneWriter {
   SceneWriter& number(double v);
   // "%g" of the number rounded to the PRECISION step (roundToPrecision).
   SceneWriter& rounded(double v);
-  // The plain decimal number `text` (core/DecimalText.h) as rounded(), or
-  // number() when `round` is false, writes its value.  Most such texts are
-  // rounded on their digits.
-  SceneWriter& decimal(const char* text, size_t length, bool round);
+  // The plain decimal number (core/DecimalText.h) as rounded(), or number()
+  // when `round` is false, writes its value.  Most such texts are rounded
+  // on their digits.
+  SceneWriter& decimal(const PlainDecimal& text, bool round);
   // "%d".
   SceneWriter& integer(long v);
   // printf-formatted text.

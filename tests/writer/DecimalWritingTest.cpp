@@ -29,14 +29,20 @@ std::string written(const std::function<void(SceneWriter&)>& write) {
   return result;
 }
 
+PlainDecimal decimalOf(const std::string& text) {
+  PlainDecimal decimal{};
+  EXPECT_TRUE(isPlainDecimal(text.c_str(), &decimal)) << text;
+  return decimal;
+}
+
 // Each text followed by a blank, through decimal() and through its value.
 void expectSameAsValues(const std::vector<std::string>& texts, bool round) {
   const std::string byDigits = written([&](SceneWriter& out) {
-    for (const std::string& t : texts) out.decimal(t.c_str(), t.size(), round).character(' ');
+    for (const std::string& t : texts) out.decimal(decimalOf(t), round).character(' ');
   });
   const std::string byValues = written([&](SceneWriter& out) {
     for (const std::string& t : texts) {
-      const double v = plainDecimalValue(t.c_str(), t.size());
+      const double v = plainDecimalValue(decimalOf(t));
       (round ? out.rounded(v) : out.number(v)).character(' ');
     }
   });
@@ -83,8 +89,8 @@ std::vector<std::string> randomTexts(int count) {
       t += std::string(static_cast<size_t>(zeros), '0');
       digits(std::max(fractionDigits, 1), false);
     }
-    size_t length = 0;
-    if (isPlainDecimal(t.c_str(), &length)) texts.push_back(t);
+    PlainDecimal decimal{};
+    if (isPlainDecimal(t.c_str(), &decimal)) texts.push_back(t);
   }
   return texts;
 }
@@ -127,9 +133,9 @@ TEST_F(DecimalWriting, ChosenTextsMatchTheirValues) {
 TEST(DecimalText, TruncationMatchesTheTruncatedValue) {
   for (const std::string& t : randomTexts(20000)) {
     char digits[32];
-    const int length = truncateDecimalText(t.c_str(), t.size(), digits);
+    const int length = truncateDecimalText(decimalOf(t), digits);
     if (length == 0) continue;
-    const double v = plainDecimalValue(t.c_str(), t.size());
+    const double v = plainDecimalValue(decimalOf(t));
     ASSERT_EQ(std::string(digits, static_cast<size_t>(length)), std::to_string(static_cast<long>(v))) << t;
   }
 }
@@ -143,8 +149,8 @@ TEST(DecimalText, PlainDecimalsAreTheNumbersWithoutExponent) {
                {" 1", false},  {"1 ", false},  {"=1", false},   {"0x10", false},
                {"1234567890123456789012345678901", true},        {"12345678901234567890123456789012", false}};
   for (const auto& c : cases) {
-    size_t length = 0;
-    EXPECT_EQ(isPlainDecimal(c.text, &length), c.plain) << c.text;
+    PlainDecimal decimal{};
+    EXPECT_EQ(isPlainDecimal(c.text, &decimal), c.plain) << c.text;
   }
 }
 
