@@ -19,25 +19,28 @@ struct Digits {
 };
 
 // Keeps the first `keep` digits (1 <= keep < count), rounding the rest half
-// away from zero.  False on an exact half.
+// away from zero.  False on an exact half.  Random digits make the
+// direction unpredictable, so it is added rather than branched on.
 bool keepDigits(Digits& x, int keep) {
   const char first = x.d[keep];
-  bool up = first > '5';
   if (first == '5') {
-    for (int i = keep + 1; i < x.count && !up; ++i) up = x.d[i] != '0';
-    if (!up) return false;
+    bool rest = false;
+    for (int i = keep + 1; i < x.count; ++i) rest |= x.d[i] != '0';
+    if (!rest) return false;
   }
   x.count = keep;
-  if (!up) return true;
   int i = keep - 1;
-  while (i >= 0 && x.d[i] == '9') x.d[i--] = '0';
-  if (i >= 0) {
+  x.d[i] = static_cast<char>(x.d[i] + (first >= '5' ? 1 : 0));
+  while (x.d[i] > '9') {
+    x.d[i] = '0';
+    if (i == 0) {
+      // 9...9 carried into a new leading digit.
+      x.d[0] = '1';
+      ++x.exponent;
+      break;
+    }
+    --i;
     ++x.d[i];
-  } else {
-    // 9...9 carried into a new leading digit.
-    x.d[0] = '1';
-    for (int k = 1; k < keep; ++k) x.d[k] = '0';
-    ++x.exponent;
   }
   return true;
 }
@@ -137,18 +140,29 @@ int roundDecimalText(const PlainDecimal& decimal, int stepDecimals, char* out) {
   if (decimalExponent < -4 || decimalExponent >= 6) return 0;
   int n = x.count;
   while (n > 1 && x.d[n - 1] == '0') --n;
+  // One to six digits remain; saying so keeps the copies below in bounds
+  // for the compiler as well.
+  if (n < 1 || n > 6) return 0;
 
   if (decimalExponent >= 0) {
-    for (int i = 0; i <= decimalExponent; ++i) *o++ = i < n ? x.d[i] : '0';
-    if (n > decimalExponent + 1) {
+    const int whole = decimalExponent + 1;
+    if (n > whole) {
+      copyShort(o, x.d, static_cast<size_t>(whole));
+      o += whole;
       *o++ = '.';
-      for (int i = decimalExponent + 1; i < n; ++i) *o++ = x.d[i];
+      copyShort(o, x.d + whole, static_cast<size_t>(n - whole));
+      o += n - whole;
+    } else {
+      copyShort(o, x.d, static_cast<size_t>(n));
+      o += n;
+      for (int i = n; i < whole; ++i) *o++ = '0';
     }
   } else {
     *o++ = '0';
     *o++ = '.';
     for (int i = -1; i > decimalExponent; --i) *o++ = '0';
-    for (int i = 0; i < n; ++i) *o++ = x.d[i];
+    copyShort(o, x.d, static_cast<size_t>(n));
+    o += n;
   }
   *o = '\0';
   return static_cast<int>(o - out);
