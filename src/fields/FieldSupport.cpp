@@ -19,20 +19,9 @@ void numbersOf(FieldExpression* exprs, int count, double* out) {
   for (int k = 0; k < count; ++k) out[k] = numberOf(exprs[k]);
 }
 
-void WrittenNumber::evaluate(FieldExpression& expression) {
-  expression_ = &expression;
-  PlainDecimal decimal;
-  if (evaluateDecimal(&expression, text_, &decimal)) {
-    length_ = decimal.length;
-    point_ = decimal.point;
-  } else {
-    length_ = 0;
-    value_ = numberOf(expression);
-  }
-}
-
-void WrittenNumber::checkFinite() {
-  if (length_ == 0) value_ = finiteAt(value_, expression_);
+void WrittenNumber::evaluateValue(FieldExpression& expression) {
+  length_ = 0;
+  value_ = numberOf(expression);
 }
 
 void WrittenNumber::write(SceneWriter& out, bool round) const {

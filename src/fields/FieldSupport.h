@@ -8,6 +8,7 @@
 #include <cstddef>
 
 #include "core/DecimalText.h"
+#include "expr/Evaluation.h"
 #include "expr/Term.h"
 #include "scene/SceneMessages.h"
 #include "writer/SceneWriter.h"
@@ -29,10 +30,19 @@ class WrittenNumber {
   // A number already evaluated.
   explicit WrittenNumber(double value) : value_(value) {}
 
-  void evaluate(FieldExpression& expression);
+  // Inline: a list of a million numbers calls both for each.
+  void evaluate(FieldExpression& expression) {
+    expression_ = &expression;
+    PlainDecimal decimal;
+    if (!evaluateDecimal(&expression, text_, &decimal)) return evaluateValue(expression);
+    length_ = decimal.length;
+    point_ = decimal.point;
+  }
   // A value that is no finite number is reported at its expression and
   // becomes 0 (finiteAt); a decimal text is always finite.
-  void checkFinite();
+  void checkFinite() {
+    if (length_ == 0) value_ = finiteAt(value_, expression_);
+  }
   // As SceneWriter::rounded() writes the value, or number() when `round` is
   // false.
   void write(SceneWriter& out, bool round) const;
@@ -41,6 +51,7 @@ class WrittenNumber {
   double value() const { return length_ != 0 ? plainDecimalValue(decimal()) : value_; }
 
  private:
+  void evaluateValue(FieldExpression& expression);
   PlainDecimal decimal() const { return PlainDecimal{text_, length_, point_}; }
 
   FieldExpression* expression_ = nullptr;
