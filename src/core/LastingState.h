@@ -11,6 +11,8 @@
 //
 // The recorded parses of recent expression texts (expr/RecordedParses.cpp)
 // are kept too; they follow from the texts alone, so no run sees another's.
+// So is the count of value holders whose text is on the heap
+// (scene/FieldExpression.cpp), which follows from the holders alone.
 #ifndef LUMERIC_CORE_LASTINGSTATE_H
 #define LUMERIC_CORE_LASTINGSTATE_H
 

@@ -1,5 +1,6 @@
 set(LUMERIC_CORE_SOURCES
   src/core/AtomKeyedTable.cpp
+  src/core/DecimalText.cpp
   src/core/FileAccess.cpp
   src/core/FloatText.cpp
   src/core/MessageDetails.cpp

@@ -3,7 +3,9 @@
 #include <cstring>
 #include <memory>
 
+#include "core/DecimalText.h"
 #include "core/QvContext.h"
+#include "core/ShortCopy.h"
 #include "expr/ExpressionLexer.h"
 #include "expr/NestedParse.h"
 #include "expr/ParseContext.h"
@@ -53,6 +55,13 @@ Term* evaluate(FieldExpression* expression, int startToken) {
   return result;
 }
 
+// The steps of an evaluation of a text known to be one number.
+void takePlainNumberSteps(FieldExpression* expression) {
+  expression->textFor(theContext.startEvaluation());
+  theContext.drawSerial();
+  theContext.parseStatus = 0;
+}
+
 // A text that is one plain decimal number (most written values are) takes
 // the same steps as its parse, without parsing: a new evaluation, the text
 // read through its guard, one more serial drawn, and a successful status.
@@ -65,9 +74,7 @@ bool evaluatePlainNumber(FieldExpression* expression, double* out) {
   if (text == nullptr || NestedParse::anyInProgress() || !ExpressionLexer::readPlainNumber(text, &value)) {
     return false;
   }
-  expression->textFor(theContext.startEvaluation());
-  theContext.drawSerial();
-  theContext.parseStatus = 0;
+  takePlainNumberSteps(expression);
   *out = value;
   return true;
 }
@@ -98,6 +105,21 @@ int evaluateScalar(FieldExpression* expression, double* out) {
   if (theContext.parseStatus != 0 || scalar == nullptr) return 0;
   *out = scalar->value;
   return 1;
+}
+
+bool evaluateDecimal(FieldExpression* expression, char* text, PlainDecimal* decimal) {
+  const char* current = expression != nullptr ? expression->text() : nullptr;
+  if (current == nullptr || NestedParse::anyInProgress() || !isPlainDecimal(current, decimal)) return false;
+  const size_t length = decimal->length;
+  if (length < 16) {
+    copyShort(text, current, length);
+    text[length] = '\0';
+  } else {
+    std::memcpy(text, current, length + 1);
+  }
+  decimal->text = text;
+  takePlainNumberSteps(expression);
+  return true;
 }
 
 int evaluateVector(FieldExpression* expression, double* out, int n) {

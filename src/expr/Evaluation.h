@@ -5,6 +5,9 @@
 #ifndef LUMERIC_EXPR_EVALUATION_H
 #define LUMERIC_EXPR_EVALUATION_H
 
+#include <cstddef>
+
+#include "core/DecimalText.h"
 #include "expr/Term.h"
 
 namespace lumeric {
@@ -24,6 +27,12 @@ StringTerm* evaluateString(FieldExpression* expression);
 StringTerm* evaluateName(FieldExpression* expression);
 // 1 and *out when the parse succeeded with a scalar; else 0, *out untouched.
 int evaluateScalar(FieldExpression* expression, double* out);
+// When the text is one plain decimal number (core/DecimalText.h), takes the
+// steps evaluateScalar takes for it, copies the text into `text`
+// (kMaxPlainDecimal + 2 bytes) and describes the copy in *decimal; returns
+// true.  Otherwise returns false and nothing happened.  Writers use it to
+// round the digits themselves.
+bool evaluateDecimal(FieldExpression* expression, char* text, PlainDecimal* decimal);
 // 1 when the parse succeeded with a vector of exactly n elements, copied to
 // out[0..n-1]; else 0.
 int evaluateVector(FieldExpression* expression, double* out, int n);

@@ -35,11 +35,14 @@ void ExpressionStore::resize(int count) {
       FieldExpression* first = element(i);
       for (int k = 0; k < width_; ++k) new (first + k) FieldExpression();
     }
-  } else {
+  } else if (FieldExpression::anyHeapTexts()) {
     for (int i = count; i < size_; ++i) {
       FieldExpression* first = element(i);
       for (int k = 0; k < width_; ++k) first[k].~FieldExpression();
     }
+    releaseSegmentsFrom(count);
+  } else {
+    // No element holds anything to free.
     releaseSegmentsFrom(count);
   }
   size_ = count;

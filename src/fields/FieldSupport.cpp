@@ -4,6 +4,7 @@
 #include <string>
 
 #include "expr/Evaluation.h"
+#include "expr/TermConversions.h"
 #include "scene/FieldExpression.h"
 
 namespace lumeric {
@@ -16,6 +17,31 @@ double numberOf(FieldExpression& expr) {
 
 void numbersOf(FieldExpression* exprs, int count, double* out) {
   for (int k = 0; k < count; ++k) out[k] = numberOf(exprs[k]);
+}
+
+void WrittenNumber::evaluateValue(FieldExpression& expression) {
+  length_ = 0;
+  value_ = numberOf(expression);
+}
+
+void WrittenNumber::write(SceneWriter& out, bool round) const {
+  if (length_ != 0) {
+    out.decimal(decimal(), round);
+  } else if (round) {
+    out.rounded(value_);
+  } else {
+    out.number(value_);
+  }
+}
+
+void WrittenNumber::writeInteger(SceneWriter& out) const {
+  char digits[32];
+  const int length = length_ != 0 ? truncateDecimalText(decimal(), digits) : 0;
+  if (length != 0) {
+    out.text(digits, static_cast<size_t>(length));
+  } else {
+    out.integer(truncateToInt(value()));
+  }
 }
 
 void storeNumbers(FieldExpression* exprs, const double* values, int count) {

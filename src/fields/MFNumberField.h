@@ -7,7 +7,8 @@
 //   kTypeName,
 //   kCannotSet (the whole list), kCannotSetEntry (a call with a second
 //     index), kCannotAppend, kBounds (a format with the index),
-//   static void writeItem(SceneWriter&, double): one number as written.
+//   static void writeItem(SceneWriter&, const WrittenNumber&): one number as
+//     written.
 // The message texts are used exactly as they stand, trailing blanks included.
 #ifndef LUMERIC_FIELDS_MFNUMBERFIELD_H
 #define LUMERIC_FIELDS_MFNUMBERFIELD_H
@@ -46,7 +47,8 @@ class MFNumberField : public ExpressionListField {
 
  private:
   void storeFrom(int first, const double* numbers, int count);
-  // Writes `count` numbers in the list layout; item(k) gives number k.
+  // Writes `count` numbers in the list layout; item(k) gives number k, a
+  // WrittenNumber.
   template <class ItemSource>
   void writeItems(SceneWriter& out, int count, ItemSource item);
 };
@@ -141,10 +143,15 @@ void MFNumberField<Derived, Traits>::write(SceneWriter& out) {
     // The expanded numbers no longer tell their element; the list's first
     // expression stands for all of them in messages.
     writeItems(out, static_cast<int>(numbers.size()),
-               [&](int k) { return finiteAt(numbers[static_cast<size_t>(k)], element(0)); });
+               [&](int k) { return WrittenNumber(finiteAt(numbers[static_cast<size_t>(k)], element(0))); });
     return;
   }
-  writeItems(out, num, [this](int k) { return finiteAt(numberAt(k, 0), element(k)); });
+  writeItems(out, num, [this](int k) {
+    WrittenNumber number;
+    if (k < num) number.evaluate(*element(k));
+    number.checkFinite();
+    return number;
+  });
 }
 
 // One number: " %g\n".  Up to kItemsPerLine: " [", the items " %g," and the

@@ -58,7 +58,8 @@ class MFVectorField : public ExpressionListField {
 
  private:
   void storeRows(int first, const double* numbers, int count);
-  // Writes `count` rows in the list layout; row(r, numbers) gives row r.
+  // Writes `count` rows in the list layout; row(r, numbers) gives row r as
+  // kWidth WrittenNumbers.
   template <class RowSource>
   void writeRows(SceneWriter& out, int count, RowSource row);
 };
@@ -180,13 +181,18 @@ void MFVectorField<Derived, Traits>::write(SceneWriter& out) {
     expand(rows);
     // The expanded rows no longer tell their element; the list's first
     // expression stands for all of them in messages.
-    writeRows(out, static_cast<int>(rows.size() / kWidth), [&](int r, double* numbers) {
-      for (int k = 0; k < kWidth; ++k) numbers[k] = finiteAt(rows[static_cast<size_t>(r) * kWidth + k], element(0));
+    writeRows(out, static_cast<int>(rows.size() / kWidth), [&](int r, WrittenNumber* numbers) {
+      for (int k = 0; k < kWidth; ++k) {
+        numbers[k] = WrittenNumber(finiteAt(rows[static_cast<size_t>(r) * kWidth + k], element(0)));
+      }
     });
     return;
   }
-  writeRows(out, num, [this](int r, double* numbers) {
-    for (int k = 0; k < kWidth; ++k) numbers[k] = finiteAt(numberAt(r, k), &element(r)[k]);
+  writeRows(out, num, [this](int r, WrittenNumber* numbers) {
+    for (int k = 0; k < kWidth; ++k) {
+      if (r < num) numbers[k].evaluate(element(r)[k]);
+      numbers[k].checkFinite();
+    }
   });
 }
 
@@ -194,15 +200,11 @@ template <class Derived, class Traits>
 template <class RowSource>
 void MFVectorField<Derived, Traits>::writeRows(SceneWriter& out, int count, RowSource row) {
   out.list(count, kOneItemPerLine, [&](int r) {
-    double numbers[kWidth];
+    WrittenNumber numbers[kWidth];
     row(r, numbers);
     for (int k = 0; k < kWidth; ++k) {
       if (k > 0) out.character(' ');
-      if (Traits::kRounded) {
-        out.rounded(numbers[k]);
-      } else {
-        out.number(numbers[k]);
-      }
+      numbers[k].write(out, Traits::kRounded);
     }
   });
 }

@@ -15,7 +15,7 @@ struct QvMFFloatTraits {
   static constexpr const char* kCannotSetEntry = "Bounds error: cannot set a MFFloat field using this value ";
   static constexpr const char* kCannotAppend = "Bounds error: cannot append to a MFFloat field using this value";
   static constexpr const char* kBounds = "Bounds error: tried to access MFFloat[%d]";
-  static void writeItem(SceneWriter& text, double v) { text.rounded(v); }
+  static void writeItem(SceneWriter& text, const WrittenNumber& n) { n.write(text, true); }
 };
 
 extern template class MFNumberField<QvMFFloat, QvMFFloatTraits>;

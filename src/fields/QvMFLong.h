@@ -17,7 +17,7 @@ struct QvMFLongTraits {
   static constexpr const char* kCannotSetEntry = "Bounds error: cannot set a MFLong field using this value ";
   static constexpr const char* kCannotAppend = "Bounds error: cannot append to a MFLong field using this value ";
   static constexpr const char* kBounds = "Bounds error: tried to access MFLong[%d]";
-  static void writeItem(SceneWriter& text, double v) { text.integer(truncateToInt(v)); }
+  static void writeItem(SceneWriter& text, const WrittenNumber& n) { n.writeInteger(text); }
 };
 
 extern template class MFNumberField<QvMFLong, QvMFLongTraits>;

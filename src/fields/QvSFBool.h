@@ -15,7 +15,7 @@ struct QvSFBoolTraits {
   static constexpr const char* kCannotSet = "Cannot set SFBool using this value";
   static constexpr const char* kBounds = "Bounds error: tried to access SFBool[%d]";
   static constexpr bool kGetGivesNumber = true;
-  static void writeValue(SceneWriter& text, double v) { text.text(v == 0 ? "FALSE\n" : "TRUE\n"); }
+  static void writeValue(SceneWriter& text, const WrittenNumber& n) { text.text(n.value() == 0 ? "FALSE\n" : "TRUE\n"); }
 };
 
 extern template class SFNumberField<QvSFBool, QvSFBoolTraits>;

@@ -15,7 +15,10 @@ struct QvSFFloatTraits {
   // Worded like the bounds errors of SFLong and SFBool.
   static constexpr const char* kBounds = "Bounds error: tried to access SFFloat[%d]";
   static constexpr bool kGetGivesNumber = false;
-  static void writeValue(SceneWriter& text, double v) { text.rounded(v).character('\n'); }
+  static void writeValue(SceneWriter& text, const WrittenNumber& n) {
+    n.write(text, true);
+    text.character('\n');
+  }
 };
 
 extern template class SFNumberField<QvSFFloat, QvSFFloatTraits>;

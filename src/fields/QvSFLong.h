@@ -16,7 +16,10 @@ struct QvSFLongTraits {
   static constexpr const char* kCannotSet = "Cannot set SFLong using this value";
   static constexpr const char* kBounds = "Bounds error: tried to access SFLong[%d]";
   static constexpr bool kGetGivesNumber = false;
-  static void writeValue(SceneWriter& text, double v) { text.integer(truncateToInt(v)).character('\n'); }
+  static void writeValue(SceneWriter& text, const WrittenNumber& n) {
+    n.writeInteger(text);
+    text.character('\n');
+  }
 };
 
 extern template class SFNumberField<QvSFLong, QvSFLongTraits>;

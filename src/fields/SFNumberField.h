@@ -5,7 +5,8 @@
 //   kGetGivesNumber: true when GetLumericValue always answers with a new
 //     ScalarTerm (0 after the bounds message); false when it gives the
 //     evaluated term and null after the bounds message,
-//   static void writeValue(SceneWriter&, double): the text after " ".
+//   static void writeValue(SceneWriter&, const WrittenNumber&): the text
+//     after " ".
 #ifndef LUMERIC_FIELDS_SFNUMBERFIELD_H
 #define LUMERIC_FIELDS_SFNUMBERFIELD_H
 
@@ -49,7 +50,10 @@ Term* SFNumberField<Derived, Traits>::GetLumericValue(int i, int, FieldExpressio
 template <class Derived, class Traits>
 void SFNumberField<Derived, Traits>::write(SceneWriter& out) {
   out.character(' ');
-  Traits::writeValue(out, finiteAt(numberOf(value), &value));
+  WrittenNumber number;
+  number.evaluate(value);
+  number.checkFinite();
+  Traits::writeValue(out, number);
 }
 
 }  // namespace lumeric

@@ -88,17 +88,19 @@ Term* SFVectorField<Derived, Traits>::GetLumericValue(int i, int j, FieldExpress
 
 template <class Derived, class Traits>
 void SFVectorField<Derived, Traits>::write(SceneWriter& out) {
-  double numbers[kSize];
+  WrittenNumber numbers[kSize];
   if (isExpression) {
     VectorTerm* vector = evaluateWhole();
     if (vector == nullptr) return reportAt(&values[0], Traits::kCannotDefine);
-    for (int k = 0; k < kSize; ++k) numbers[k] = vector->elements[k];
+    for (int k = 0; k < kSize; ++k) numbers[k] = WrittenNumber(finiteAt(vector->elements[k], &values[0]));
   } else {
-    numbersOf(values, kSize, numbers);
+    for (int k = 0; k < kSize; ++k) numbers[k].evaluate(values[k]);
   }
   for (int k = 0; k < kSize; ++k) {
     if (k == 0) out.character(' ');
-    out.rounded(finiteAt(numbers[k], &values[isExpression ? 0 : k])).character(k + 1 < kSize ? ' ' : '\n');
+    numbers[k].checkFinite();
+    numbers[k].write(out, true);
+    out.character(k + 1 < kSize ? ' ' : '\n');
   }
 }
 

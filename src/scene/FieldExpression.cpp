@@ -7,10 +7,13 @@
 #include "core/QvContext.h"
 #include "core/NumberText.h"
 #include "core/RunState.h"
+#include "core/ShortCopy.h"
 #include "scene/QvNode.h"
 #include "scene/SceneMessages.h"
 
 namespace lumeric {
+
+long FieldExpression::heapTexts_ = 0;
 
 FieldExpression::FieldExpression(const FieldExpression& other) : mark(other.mark), line(other.line) {
   clearStorage();
@@ -50,19 +53,9 @@ void FieldExpression::freeText() {
   if (form() == kHeapForm) {
     theRun.valueBytes -= static_cast<long long>(std::strlen(storage_.heap.pointer) + 1);
     std::free(storage_.heap.pointer);
+    --heapTexts_;
   }
   clearStorage();
-}
-
-const char* FieldExpression::text() const {
-  switch (form()) {
-    case kInlineForm:
-      return storage_.bytes;
-    case kHeapForm:
-      return storage_.heap.pointer;
-    default:
-      return nullptr;
-  }
 }
 
 void FieldExpression::setText(const char* text) {
@@ -79,12 +72,12 @@ void FieldExpression::setText(const char* text, size_t length) {
     return;
   }
   if (length < kInline) {
-    // The source may be our own text; copy before releasing it.
-    char copy[kInline];
-    std::memcpy(copy, text, length);
+    // The source may be our own text; copy before releasing it.  The zeros
+    // are the terminator and the inline form.
+    char copy[kInline] = {};
+    copyShort(copy, text, length);
     freeText();
-    std::memcpy(storage_.bytes, copy, length);
-    std::memset(storage_.bytes + length, 0, kInline - length);
+    std::memcpy(storage_.bytes, copy, kInline);
     return;
   }
   char* heap = static_cast<char*>(std::malloc(length + 1));
@@ -96,6 +89,7 @@ void FieldExpression::setText(const char* text, size_t length) {
   storage_.heap.pointer = heap;
   storage_.heap.reserved = 0;
   storage_.bytes[kInline - 1] = kHeapForm;
+  ++heapTexts_;
 }
 
 void FieldExpression::setNumber(double value) {

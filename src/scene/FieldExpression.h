@@ -40,7 +40,11 @@ class FieldExpression {
   void attachOwner(QvNode* node);
 
   // The text, or null.
-  const char* text() const;
+  const char* text() const {
+    const char f = form();
+    if (f == kInlineForm) return storage_.bytes;
+    return f == kHeapForm ? storage_.heap.pointer : nullptr;
+  }
   bool hasText() const {
     const char* t = text();
     return t != nullptr && t[0] != '\0';
@@ -49,6 +53,11 @@ class FieldExpression {
     const char* t = text();
     return t != nullptr && t[0] == c;
   }
+
+  // False when no holder anywhere keeps its text on the heap: destroying
+  // holders then frees nothing, and a store of millions of them can skip
+  // walking them.
+  static bool anyHeapTexts() { return heapTexts_ != 0; }
 
   // The circular-reference guard, then the text: an expression read again
   // within the evaluation that has already read it posts "Error: Circular
@@ -66,10 +75,16 @@ class FieldExpression {
   static constexpr size_t kInline = 16;
   enum : char { kInlineForm = 0, kHeapForm = 1, kNoText = 2 };
 
-  void clearStorage() { storage_.bytes[kInline - 1] = kNoText; }
+  void clearStorage() {
+    storage_.heap.pointer = nullptr;
+    storage_.bytes[kInline - 1] = kNoText;
+  }
   void freeText();
   char form() const { return storage_.bytes[kInline - 1]; }
   void moveFrom(FieldExpression& other);
+
+  // The holders in the heap form, in every run.
+  static long heapTexts_;
 
   union Storage {
     char bytes[kInline];

@@ -6,13 +6,15 @@
 #include <cstring>
 #include <string>
 
+#include "core/DecimalText.h"
 #include "core/NumberText.h"
 #include "core/LastingState.h"
 
 namespace lumeric {
 
-SceneWriter& SceneWriter::text(const char* s) {
-  size_t length = std::strlen(s);
+SceneWriter& SceneWriter::text(const char* s) { return text(s, std::strlen(s)); }
+
+SceneWriter& SceneWriter::text(const char* s, size_t length) {
   if (length > sizeof buffer_ / 2) {
     flush();
     put(s, length);
@@ -21,12 +23,6 @@ SceneWriter& SceneWriter::text(const char* s) {
   makeRoom(length);
   std::memcpy(buffer_ + used_, s, length);
   used_ += length;
-  return *this;
-}
-
-SceneWriter& SceneWriter::character(char c) {
-  makeRoom(1);
-  buffer_[used_++] = c;
   return *this;
 }
 
@@ -51,6 +47,34 @@ double roundToPrecision(double v) {
 }
 
 SceneWriter& SceneWriter::rounded(double v) { return number(roundToPrecision(v)); }
+
+int SceneWriter::stepDecimals() {
+  const double q = precisionQuantum;
+  if (q == lastStep_) return lastStepDecimals_;
+  static const double kSteps[] = {1,    1e-1, 1e-2,  1e-3,  1e-4,  1e-5,  1e-6,  1e-7,
+                                  1e-8, 1e-9, 1e-10, 1e-11, 1e-12, 1e-13, 1e-14, 1e-15};
+  int decimals = q > 0 ? kNoDecimals : -1;
+  for (int d = 0; d < 16 && decimals == kNoDecimals; ++d) {
+    if (q == kSteps[d]) decimals = d;
+  }
+  lastStep_ = q;
+  lastStepDecimals_ = decimals;
+  return decimals;
+}
+
+SceneWriter& SceneWriter::decimal(const PlainDecimal& text, bool round) {
+  const int decimals = round ? stepDecimals() : -1;
+  if (decimals != kNoDecimals) {
+    makeRoom(kNumberTextSize);
+    if (int written = roundDecimalText(text, decimals, buffer_ + used_)) {
+      used_ += static_cast<size_t>(written);
+      return *this;
+    }
+  }
+  // The digits left it open: the value decides, as for any number.
+  const double v = plainDecimalValue(text);
+  return round ? rounded(v) : number(v);
+}
 
 SceneWriter& SceneWriter::integer(long v) {
   makeRoom(kNumberTextSize);

@@ -14,6 +14,8 @@
 
 namespace lumeric {
 
+struct PlainDecimal;
+
 // How a list of more than one item is laid out.  The first item follows
 // " [ "; later items follow "," and a blank, except that every
 // `itemsPerLine` items a new line starts one level deeper than the field,
@@ -47,12 +49,21 @@ class SceneWriter {
 
   // Pieces of text, appended as given.
   SceneWriter& text(const char* s);
-  SceneWriter& character(char c);
+  SceneWriter& text(const char* s, size_t length);
+  SceneWriter& character(char c) {
+    makeRoom(1);
+    buffer_[used_++] = c;
+    return *this;
+  }
   // "%g" of the number, exactly as printf writes it; 0 for infinities and
   // NaN.
   SceneWriter& number(double v);
   // "%g" of the number rounded to the PRECISION step (roundToPrecision).
   SceneWriter& rounded(double v);
+  // The plain decimal number (core/DecimalText.h) as rounded(), or number()
+  // when `round` is false, writes its value.  Most such texts are rounded
+  // on their digits.
+  SceneWriter& decimal(const PlainDecimal& text, bool round);
   // "%d".
   SceneWriter& integer(long v);
   // printf-formatted text.
@@ -106,11 +117,17 @@ class SceneWriter {
     if (used_ + length > sizeof buffer_) flush();
   }
   void formatted(const char* format, va_list args);
+  // The PRECISION step as a count of decimals: -1 for no step, kNoDecimals
+  // for a step that is no power of ten.  Kept for the last step asked.
+  static constexpr int kNoDecimals = -2;
+  int stepDecimals();
 
   FILE* stream_;
   int level_ = 0;
   long nodesOpened_ = 0;
   size_t used_ = 0;
+  double lastStep_ = 0;
+  int lastStepDecimals_ = -1;
   int writeError_ = 0;
   char buffer_[4096];
 };

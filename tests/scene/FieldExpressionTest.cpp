@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
 #include "core/QvContext.h"
 #include "support/RecordingView.h"
@@ -21,6 +22,30 @@ TEST(FieldExpression, AFreshHolderHasNothing) {
   e.setText("");
   ASSERT_NE(e.text(), nullptr);
   EXPECT_FALSE(e.hasText());
+}
+
+// Stores of many holders skip destroying them when no holder anywhere keeps
+// a text on the heap, so every way into and out of that form must count.
+TEST(FieldExpression, HeapTextsAreCountedThroughCopiesMovesAndClears) {
+  const bool before = FieldExpression::anyHeapTexts();
+  const std::string longText(40, 'x');
+  {
+    FieldExpression a;
+    a.setText(longText.c_str());
+    EXPECT_TRUE(FieldExpression::anyHeapTexts());
+    FieldExpression b(std::move(a));
+    FieldExpression c(b);
+    c.setText("short");
+    c = b;
+    b.clearText();
+    EXPECT_TRUE(FieldExpression::anyHeapTexts());  // c's copy
+    FieldExpression d;
+    d = std::move(c);
+    d.setNumber(2);
+    EXPECT_EQ(FieldExpression::anyHeapTexts(), before);
+    d.setText(longText.c_str());
+  }
+  EXPECT_EQ(FieldExpression::anyHeapTexts(), before);
 }
 
 TEST(FieldExpression, NumbersAreStoredAsPrintfWouldFormatThem) {

@@ -1,4 +1,5 @@
 set(LUMERIC_WRITER_TESTS
+  writer/DecimalWritingTest.cpp
   writer/RoundingTest.cpp
   writer/SceneWriterTest.cpp
 )
