@@ -10,22 +10,24 @@
 
 namespace lumeric {
 
-// Copies `n` bytes, at most 16, as two overlapping fixed-size moves.
+// Copies `n` bytes, sizeof(Word) <= n <= 2 * sizeof(Word), as a word at
+// each end; the two may overlap.
+template <class Word>
+inline void copyWordEnds(char* to, const char* from, size_t n) {
+  Word head;
+  Word tail;
+  std::memcpy(&head, from, sizeof head);
+  std::memcpy(&tail, from + n - sizeof tail, sizeof tail);
+  std::memcpy(to, &head, sizeof head);
+  std::memcpy(to + n - sizeof tail, &tail, sizeof tail);
+}
+
+// Copies `n` bytes, at most 16, in two fixed-size moves.
 inline void copyShort(char* to, const char* from, size_t n) {
   if (n >= 8) {
-    uint64_t head;
-    uint64_t tail;
-    std::memcpy(&head, from, 8);
-    std::memcpy(&tail, from + n - 8, 8);
-    std::memcpy(to, &head, 8);
-    std::memcpy(to + n - 8, &tail, 8);
+    copyWordEnds<uint64_t>(to, from, n);
   } else if (n >= 4) {
-    uint32_t head;
-    uint32_t tail;
-    std::memcpy(&head, from, 4);
-    std::memcpy(&tail, from + n - 4, 4);
-    std::memcpy(to, &head, 4);
-    std::memcpy(to + n - 4, &tail, 4);
+    copyWordEnds<uint32_t>(to, from, n);
   } else if (n > 0) {
     to[0] = from[0];
     to[n / 2] = from[n / 2];
