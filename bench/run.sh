@@ -5,7 +5,9 @@
 #
 # Generates two plain VRML 1.0 scenes in a temporary directory (a Coordinate3
 # of 2*10^5 points and an IndexedFaceSet, about 10 MB; 10^6 points, about
-# 50 MB) and measures, on the same files and in this order:
+# 50 MB), and the shared benchmark scene when ../shared/bench/gen-big-vrml1.py
+# is there (186,915 points, seed 1, about 10 MB, with numbers of eight
+# digits), and measures, on the same files and in this order:
 #   cat        cat FILE > /dev/null, the floor set by reading the bytes
 #   lumeric    the release translator, lumeric -o OUT FILE
 #   coin       Coin reading and writing the scene (vrml1check roundtrip)
@@ -98,15 +100,22 @@ numcopy_source="$root/../shared/bench/numcopy.cpp"
 if [ -f "$numcopy_source" ] && c++ -O2 -std=c++17 -o "$work/numcopy" "$numcopy_source" 2>/dev/null; then
   numcopy="$work/numcopy"
 fi
+# The shared benchmark scene (eight-digit coordinates, rounded when
+# written), when its generator is there: a third row of every tool.
+shared_scene=""
+if [ -f "$root/../shared/bench/gen-big-vrml1.py" ] &&
+  python3 "$root/../shared/bench/gen-big-vrml1.py" --points 186915 --seed 1 "$work/shared-10mb.wrl" >/dev/null 2>&1; then
+  shared_scene="shared-10mb.wrl"
+fi
 
-python3 - "$work" "$translator" "$reader" "$repeat" "$numcopy" <<'PYTHON'
+python3 - "$work" "$translator" "$reader" "$repeat" "$numcopy" "$shared_scene" <<'PYTHON'
 import os
 import subprocess
 import sys
 import time
 
 work, translator, reader, repeat, numcopy = sys.argv[1], sys.argv[2], sys.argv[3], int(sys.argv[4]), sys.argv[5]
-files = ["points-2e5.wrl", "points-1e6.wrl"]
+files = ["points-2e5.wrl", "points-1e6.wrl"] + ([sys.argv[6]] if sys.argv[6] else [])
 launcher = os.path.join(work, "peak")
 
 
@@ -161,7 +170,7 @@ for name in files:
     if (name, "lumeric") in rows and (name, "numcopy") in rows:
         ratio = rows[(name, "numcopy")] / rows[(name, "lumeric")]
         print(f"speed lumeric/numcopy {name}: {ratio:.2f} (numcopy seconds / lumeric seconds)")
-small, large = files
+small, large = files[:2]
 size_growth = os.path.getsize(os.path.join(work, large)) / os.path.getsize(os.path.join(work, small))
 for tool in ("lumeric", "coin", "cat"):
     if (small, tool) in rows and (large, tool) in rows:
