@@ -1,4 +1,5 @@
-// What outlives runs.  theRun.reset() leaves all of it alone, so it carries
+// What outlives runs.  theRun.reset() leaves it alone (but for the restart
+// of expressionSerials below), so it carries
 // from one translation in a process to the next; a caller that wants every
 // run to start alike sets it back itself (the playground does before every
 // request).
@@ -30,9 +31,11 @@ constexpr unsigned long kWarnDuplicateNames = 4;
 // Whether the host asked for the warnings of `bit`.
 bool warningsEnabled(unsigned long bit);
 
-// Serials are never reused, so an expression's mark from an earlier run
-// never matches an evaluation of a later one.
+// Serials are not reused within a run.  theRun.reset() starts them again
+// from 0 once they pass kSerialRestart: no expression outlives its run, so
+// no mark of an earlier run is ever compared with them.
 extern int expressionSerials;
+constexpr int kSerialRestart = 1 << 30;
 
 // Starts at 1 when the library is loaded and is never reseeded: a scene's
 // random numbers continue the sequence of the runs before it.

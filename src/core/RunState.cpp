@@ -2,6 +2,7 @@
 
 #include "core/QvAtom.h"
 #include "core/QvAtomPool.h"
+#include "core/LastingState.h"
 #include "core/QvContext.h"
 #include "core/QvNameTable.h"
 
@@ -28,6 +29,12 @@ void RunState::reset() {
   limits = RunLimits();
   confinedTo.clear();
   nestedEvaluations = 0;
+  // Serials restart between runs once they pass 2^30, long before they
+  // could overflow in a process that translates again and again (a host,
+  // --watch, a fuzzer).  No expression outlives the run that read it, and
+  // one run's work budget ends it far short of 2^30 serials, so no living
+  // mark ever meets a serial drawn again.
+  if (expressionSerials > kSerialRestart) expressionSerials = 0;
   valueWork = 0;
   workBudgetSpent = false;
   evaluationBudgetSpent = false;

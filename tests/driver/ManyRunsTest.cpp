@@ -116,5 +116,26 @@ TEST(ManyRuns, EveryGoldenSceneGivesItsExpectationAfterOthers) {
   ASSERT_EQ(chdir(previous), 0);
 }
 
+// A process that translates again and again draws serials without end; a
+// fuzz target overflowed them after about three million scenes.  They start
+// again between runs once past kSerialRestart, and the runs after the
+// restart give the same result, circular-reference guard included.
+TEST(ManyRuns, SerialsStartAgainBetweenRunsLongBeforeTheyOverflow) {
+  const std::string scene =
+      "#VRML V1.0 ascii\nLOD { range [ range, 2 ] }\nCube { width =1+2 }\n";
+  const int saved = expressionSerials;
+  const SceneResult first = translateText(scene);
+  ASSERT_TRUE(contains(first.messages, "Circular reference")) << first.messages;
+  expressionSerials = kSerialRestart - 1;
+  const SceneResult nearTheRestart = translateText(scene);
+  EXPECT_LT(expressionSerials, kSerialRestart / 2);
+  const SceneResult afterIt = translateText(scene);
+  for (const SceneResult* again : {&nearTheRestart, &afterIt}) {
+    EXPECT_EQ(again->output, first.output);
+    EXPECT_EQ(again->messages, first.messages);
+  }
+  expressionSerials = saved;
+}
+
 }  // namespace
 }  // namespace lumeric
