@@ -8,6 +8,7 @@
 #include <limits>
 #include <string>
 
+#include "core/DecimalText.h"
 #include "core/FloatText.h"
 #include "expr/Term.h"
 
@@ -301,9 +302,10 @@ double ExpressionLexer::scanDecimalNumber(const char* start) {
   return convertDecimal(start, p);
 }
 
-// The longest number text the fast reading below accepts.
-constexpr long kMaxNumberLength = 31;
 
+// Takes numbers of at most kMaxPlainDecimal characters after the sign, the
+// same as the writers' plain decimals (core/DecimalText.h), which must be
+// texts this reading accepts.
 bool ExpressionLexer::readPlainNumber(const char* text, double* value) {
   const char* p = text;
   const bool negative = *p == '-';
@@ -322,7 +324,7 @@ bool ExpressionLexer::readPlainNumber(const char* text, double* value) {
     if (!isDigit(*p)) return false;
     while (isDigit(*p)) ++p;
   }
-  if (*p != '\0' || p - start > kMaxNumberLength) return false;
+  if (*p != '\0' || static_cast<size_t>(p - start) > kMaxPlainDecimal) return false;
   const double number = convertDecimal(start, p);
   *value = negative ? -number : number;
   return true;
