@@ -40,6 +40,13 @@ uint64_t roundScaled(uint64_t m, int e, int k) {
     const int shift = e >= 0 ? 0 : -e;
     quotient = numerator >> shift;
     remainder = numerator - (quotient << shift);
+  } else if ((numerator >> 64) == 0 && (denominator >> 64) == 0) {
+    // Numbers from a million up to about 10^15 mostly fit in 64 bits, and
+    // a 64-bit division is several times faster than a 128-bit one.
+    const uint64_t n = static_cast<uint64_t>(numerator);
+    const uint64_t d = static_cast<uint64_t>(denominator);
+    quotient = n / d;
+    remainder = n % d;
   } else {
     quotient = numerator / denominator;
     remainder = numerator % denominator;

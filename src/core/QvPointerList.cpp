@@ -8,7 +8,9 @@ QvPointerList::~QvPointerList() { delete[] items_; }
 
 void QvPointerList::grow(int need) {
   if (need <= capacity_) return;
-  int capacity = capacity_ == 0 ? 4 : capacity_;
+  // Three pointers fill the smallest block the heap hands out; most groups
+  // a LOOP copies hold one to three children.
+  int capacity = capacity_ == 0 ? 3 : capacity_;
   while (capacity < need) capacity *= 2;
   void** items = new void*[capacity];
   if (count_ > 0) std::memcpy(items, items_, sizeof(void*) * count_);

@@ -1,6 +1,6 @@
 // The storage behind PointerList<T>: a growable array of untyped pointers.
 // Use PointerList<T>, which states the element type; this class exists so
-// that the list code is compiled once.  Growth: to 4 when empty, then
+// that the list code is compiled once.  Growth: to 3 when empty, then
 // doubling until the need is covered.
 #ifndef LUMERIC_CORE_QVPOINTERLIST_H
 #define LUMERIC_CORE_QVPOINTERLIST_H

@@ -85,7 +85,20 @@ int parseExpression(FieldExpression* expression, Term** result, int serial, int 
   if (expression == nullptr || !expression->hasText()) return 0;
   NestedParse nesting(expression);
   const TextCopy text(nesting.admitted() ? expression->textFor(serial) : "0");
-  ParseContext context(expression, text.text(), startToken, result, theContext.drawSerial());
+  const int parserSerial = theContext.drawSerial();
+  // A field reference most often reads a plain number (a LOOP's position,
+  // a value a copy stored): it gives the terms its parse would make, the
+  // number and, for a negative one, its negation, without running the
+  // parser.  The guards above have run as for any text.
+  double number;
+  if (startToken == 0 && ExpressionLexer::readPlainNumber(text.text(), &number)) {
+    const bool negative = text.text()[0] == '-';
+    Term* term = ScalarTerm::make(negative ? -number : number);
+    if (negative) term = ScalarTerm::make(number);
+    *result = term;
+    return 0;
+  }
+  ParseContext context(expression, text.text(), startToken, result, parserSerial);
   return parseOrReplay(&context, text.text(), text.length());
 }
 

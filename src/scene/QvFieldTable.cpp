@@ -27,13 +27,18 @@ QvFieldTable::~QvFieldTable() {
   if (ownsFields_) {
     for (Entry& entry : fields_) delete entry.field;
   }
-  for (Enumeration* enumeration : enums_) delete enumeration;
+  while (enums_ != nullptr) {
+    Enumeration* next = enums_->next;
+    delete enums_;
+    enums_ = next;
+  }
 }
 
 void QvFieldTable::addField(QvNode* node, const char* name, QvField* field) { addField(node, QvAtom(name), field); }
 
 void QvFieldTable::addField(QvNode* node, QvAtom name, QvField* field) {
-  Entry entry{name, 0, nullptr};
+  Entry entry;
+  entry.name = name;
   if (ownsFields_) {
     entry.field = field;
   } else {
@@ -44,15 +49,13 @@ void QvFieldTable::addField(QvNode* node, QvAtom name, QvField* field) {
 
 void QvFieldTable::addEnumValue(const char* typeName, const char* valueName, int value) {
   QvAtom type = trimmedAtom(typeName);
-  Enumeration* target = nullptr;
-  for (Enumeration* enumeration : enums_) {
-    if (enumeration->typeName == type) target = enumeration;
-  }
+  Enumeration* target = enums_;
+  while (target != nullptr && target->typeName != type) target = target->next;
   if (target == nullptr) {
-    target = new Enumeration{type, {}, {}};
+    target = new Enumeration{type, {}, {}, enums_};
     target->values.reserve(6);
     target->names.reserve(6);
-    enums_.push_back(target);
+    enums_ = target;
   }
   target->values.push_back(value);
   target->names.push_back(trimmedAtom(valueName));
@@ -60,7 +63,7 @@ void QvFieldTable::addEnumValue(const char* typeName, const char* valueName, int
 
 void QvFieldTable::getEnumData(const char* typeName, int& count, const int*& values, const QvAtom*& names) const {
   QvAtom type = trimmedAtom(typeName);
-  for (Enumeration* enumeration : enums_) {
+  for (const Enumeration* enumeration = enums_; enumeration != nullptr; enumeration = enumeration->next) {
     if (enumeration->typeName == type) {
       count = static_cast<int>(enumeration->values.size());
       values = enumeration->values.data();

@@ -33,6 +33,8 @@ class QvFieldTable {
   void getEnumData(const char* typeName, int& count, const int*& values, const QvAtom*& names) const;
 
   int getNumFields() const { return static_cast<int>(fields_.size()); }
+  // Room for `count` fields in all (a copy knows how many it will add).
+  void reserve(int count) { fields_.reserve(static_cast<size_t>(count)); }
   QvAtom getFieldName(int index) const { return fields_[index].name; }
   // The field at entry `index` of `node`, after attachNode(node).
   QvField* getField(QvNode* node, int index) const;
@@ -53,19 +55,25 @@ class QvFieldTable {
   void writeSpecsAndValues(SceneWriter& out, QvNode* node);
 
  private:
+  // Every node with declared fields has a table, so an entry and the table
+  // are kept small: an entry holds either place, and only class tables have
+  // enumerations, chained from the first.
   struct Entry {
     QvAtom name;
-    std::ptrdiff_t offset;  // class tables: the field's place in the node
-    QvField* field;         // owning tables: the field itself
+    union {
+      std::ptrdiff_t offset;  // class tables: the field's place in the node
+      QvField* field;         // owning tables: the field itself
+    };
   };
   struct Enumeration {
     QvAtom typeName;
     std::vector<int> values;
     std::vector<QvAtom> names;
+    Enumeration* next;
   };
-  bool ownsFields_;
   std::vector<Entry> fields_;
-  std::vector<Enumeration*> enums_;
+  Enumeration* enums_ = nullptr;
+  bool ownsFields_;
 };
 
 }  // namespace lumeric
