@@ -12,6 +12,7 @@
 #include "core/QvContext.h"
 #include "expr/Evaluation.h"
 #include "expr/ExpressionLexer.h"
+#include "expr/TermArena.h"
 #include "expr/ExpressionFixture.h"
 
 namespace lumeric {
@@ -25,8 +26,9 @@ TEST_F(PlainNumberTest, TheFastReadingAgreesWithTheParser) {
   for (const char* text : texts) {
     double fast = 0;
     ASSERT_TRUE(ExpressionLexer::readPlainNumber(text, &fast)) << text;
+    // "=" in front sends the same number through the parser.
     Term* parsed = nullptr;
-    FieldExpression* e = expression(text);
+    FieldExpression* e = expression(std::string("=") + text);
     ASSERT_EQ(parseExpression(e, &parsed, theContext.startEvaluation(), 0), 0) << text;
     ASSERT_NE(asScalar(parsed), nullptr) << text;
     EXPECT_EQ(std::memcmp(&fast, &asScalar(parsed)->value, sizeof fast), 0) << text;
@@ -37,6 +39,36 @@ TEST_F(PlainNumberTest, TheFastReadingAgreesWithTheParser) {
     EXPECT_EQ(std::memcmp(&fast, &out, sizeof out), 0) << text;
     EXPECT_EQ(expressionSerials, before + 2) << text;
     EXPECT_EQ(theContext.parseStatus, 0);
+  }
+  EXPECT_TRUE(takeMessages().empty());
+}
+
+// A field reference parses the text it reads inside the parse that refers
+// to it; a plain number there makes the terms, draws the serials and leaves
+// the term memory as the parser does.
+TEST_F(PlainNumberTest, AParseOfAPlainNumberMakesWhatTheParserMakes) {
+  const char* texts[] = {"12", "-12", "+12", "-0", "2.5e6", "-1.25", "0"};
+  for (const char* text : texts) {
+    struct Outcome {
+      double value;
+      int serials;
+      size_t termBytes;
+    };
+    auto parse = [&](const std::string& t) {
+      const int before = expressionSerials;
+      const size_t bytes = termArena().bytesInUse();
+      Term* result = nullptr;
+      EXPECT_EQ(parseExpression(expression(t), &result, theContext.startEvaluation(), 0), 0) << t;
+      ScalarTerm* scalar = asScalar(result);
+      EXPECT_NE(scalar, nullptr) << t;
+      return Outcome{scalar != nullptr ? scalar->value : NAN, expressionSerials - before,
+                     termArena().bytesInUse() - bytes};
+    };
+    const Outcome fast = parse(text);
+    const Outcome parsed = parse(std::string("=") + text);
+    EXPECT_EQ(std::memcmp(&fast.value, &parsed.value, sizeof fast.value), 0) << text;
+    EXPECT_EQ(fast.serials, parsed.serials) << text;
+    EXPECT_EQ(fast.termBytes, parsed.termBytes) << text;
   }
   EXPECT_TRUE(takeMessages().empty());
 }
