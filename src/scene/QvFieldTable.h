@@ -56,8 +56,8 @@ class QvFieldTable {
 
  private:
   // Every node with declared fields has a table, so an entry and the table
-  // are kept small: an entry holds either place, and only class tables have
-  // enumerations, chained from the first.
+  // are kept small: an entry holds one of the two places, and only class
+  // tables have enumerations, chained newest first from one pointer.
   struct Entry {
     QvAtom name;
     union {
