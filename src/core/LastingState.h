@@ -1,8 +1,7 @@
 // What outlives runs.  theRun.reset() leaves it alone (but for the restart
-// of expressionSerials below), so it carries
-// from one translation in a process to the next; a caller that wants every
-// run to start alike sets it back itself (the playground does before every
-// request).
+// of expressionSerials below), so it carries from one translation in a
+// process to the next; a caller that wants every run to start alike sets it
+// back itself (the playground does before every request).
 //
 //   precisionQuantum        the PRECISION step, which a scene sets
 //   gWarn (lumeric.h)       the host's warning switch; its bits below

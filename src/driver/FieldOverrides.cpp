@@ -53,7 +53,7 @@ bool applyFieldOverrides(const std::vector<FieldOverride>& overrides, std::strin
       return false;
     }
     QvFieldTable* table = node->getFieldTable();
-    QvField* field = table != nullptr ? table->findField(node, QvAtom(change.field.c_str())) : nullptr;
+    QvField* field = table != nullptr ? table->findField(node, change.field.c_str()) : nullptr;
     if (field == nullptr) {
       error = what + "the node \"" + change.node + "\" has no field \"" + change.field + "\"";
       return false;

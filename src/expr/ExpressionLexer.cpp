@@ -302,7 +302,6 @@ double ExpressionLexer::scanDecimalNumber(const char* start) {
   return convertDecimal(start, p);
 }
 
-
 // Takes numbers of at most kMaxPlainDecimal characters after the sign, the
 // same as the writers' plain decimals (core/DecimalText.h), which must be
 // texts this reading accepts.

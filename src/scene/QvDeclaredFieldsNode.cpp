@@ -8,13 +8,7 @@ namespace lumeric {
 QvDeclaredFieldsNode::~QvDeclaredFieldsNode() = default;
 
 QvField* QvDeclaredFieldsNode::findDeclaredField(const char* fieldName) {
-  // The names are compared as texts: a node declares a few fields, and
-  // interning the name would cost more than the comparisons (a generator
-  // looks up its fields every time it is written).
-  for (int i = 0; i < declaredFields.getNumFields(); ++i) {
-    if (declaredFields.getFieldName(i).named(fieldName)) return declaredFields.getField(this, i);
-  }
-  return nullptr;
+  return declaredFields.findField(this, fieldName);
 }
 
 void QvDeclaredFieldsNode::cloneDeclaredFieldsInto(QvDeclaredFieldsNode* copy) {

@@ -96,6 +96,13 @@ QvField* QvFieldTable::findField(QvNode* node, QvAtom name) const {
   return index < 0 ? nullptr : getField(node, index);
 }
 
+QvField* QvFieldTable::findField(QvNode* node, const char* name) const {
+  for (size_t i = 0; i < fields_.size(); ++i) {
+    if (fields_[i].name.named(name)) return getField(node, static_cast<int>(i));
+  }
+  return nullptr;
+}
+
 bool QvFieldTable::newFieldsAllowed(QvNode* node) const { return !node->isBuiltIn && fields_.empty(); }
 
 bool QvFieldTable::createDeclaredField(QvNode* node, QvAtom typeName, QvAtom name) {

@@ -40,6 +40,10 @@ class QvFieldTable {
   QvField* getField(QvNode* node, int index) const;
   // The first field named `name`, after attachNode(node), or null.
   QvField* findField(QvNode* node, QvAtom name) const;
+  // The same by text: a table holds a few names, and comparing them costs
+  // less than interning `name` (generators look up their fields every time
+  // they are written).
+  QvField* findField(QvNode* node, const char* name) const;
   int findIndex(QvAtom name) const;
   bool ownsFields() const { return ownsFields_; }
 
